@@ -1,0 +1,165 @@
+#include "OLAppSettings.h"
+
+#include "IOLLogConfig.h"
+#include "OLText.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace Orlimo {
+
+namespace {
+
+constexpr std::chrono::seconds longestWaitForLock { 5 };
+
+QString NonEmpty(const QString &name, const char *otherwise)
+{
+    return name.isEmpty() ? QString::fromLatin1(otherwise) : name;
+}
+
+bool CopyIfThere(const QString &path, const QString &copy)
+{
+    const QFileInfo info(path);
+    return !info.exists() || (QFile::copy(path, copy) && QFileInfo(copy).size() == info.size());
+}
+
+// Whether a file of this size can be written to the folder.
+bool HasRoom(const QTemporaryDir &folder, qint64 size)
+{
+    QFile file(folder.filePath(QStringLiteral("room")));
+    const QByteArray filling(static_cast<qsizetype>(size), '\0');
+    const bool fits = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+            && file.write(filling) == filling.size();
+    file.remove();
+    return fits;
+}
+
+// QSettings ends every file with a line.
+bool IsComplete(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll().endsWith('\n');
+}
+
+// QSettings keeps what it parsed of a file, and takes a file of the same size and time for the
+// same: two saves within one tick of the clock must not look alike.
+void MakeNewer(const QString &path, const QString &than)
+{
+    const QDateTime before = QFileInfo(than).lastModified();
+    QFile file(path);
+    if (QFileInfo(path).lastModified() <= before && file.open(QIODevice::ReadWrite))
+        file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
+}
+
+std::string ReplaceFile(const QString &target, const QString &replacement)
+{
+    MakeNewer(replacement, target);
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(replacement).filesystemFilePath(),
+                            QFileInfo(target).filesystemFilePath(), error);
+    return error ? error.message() : std::string();
+}
+
+} // namespace
+
+OLAppSettings::OLAppSettings()
+    : m_organization(NonEmpty(QCoreApplication::organizationName(), "Orlimo"))
+    , m_application(NonEmpty(QCoreApplication::applicationName(), "OLMediaFormatPopup"))
+{
+}
+
+void OLAppSettings::SetValue(std::string value, std::string key)
+{
+    if (key.find_first_not_of('/') != std::string::npos)
+        m_unsaved.insert_or_assign(std::move(key), std::move(value));
+}
+
+std::string OLAppSettings::Value(std::string key) const
+{
+    if (const auto unsaved = m_unsaved.find(key); unsaved != m_unsaved.end())
+        return unsaved->second;
+    if (key.empty())
+        return {};
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, m_organization, m_application);
+    settings.setFallbacksEnabled(false);
+    return settings.value(ToQString(key)).toString().toStdString();
+}
+
+void OLAppSettings::Save()
+{
+    if (m_unsaved.empty())
+        return;
+    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, m_organization,
+                             m_application);
+    const std::string failure = Write(settings.fileName());
+    if (failure.empty())
+        m_unsaved.clear();
+    else
+        IOLLogConfig::Printf("Failed save settings %s: %s", qUtf8Printable(settings.fileName()),
+                             failure.c_str());
+}
+
+// Writes a copy beside the file, under the lock that every QSettings object takes to write the
+// file. The copy has paths of its own because QSettings objects share what they know of one path:
+// one that failed to write would pass its values on to the next.
+std::string OLAppSettings::Write(const QString &path) const
+{
+    const QFileInfo info(path);
+    if (!QDir().mkpath(info.path()))
+        return "the folder cannot be made";
+    if (info.exists() && !info.isWritable())
+        return "the file is read-only";
+    QLockFile lock(path + QStringLiteral(".lock"));
+    if (!lock.tryLock(longestWaitForLock)) {
+        return lock.error() == QLockFile::LockFailedError ? "another program is writing it"
+                                                          : "the folder cannot be written to";
+    }
+    const QString target = info.exists() ? info.canonicalFilePath() : path;
+    const QTemporaryDir staging(QFileInfo(target).path() + QStringLiteral("/.settings-XXXXXX"));
+    if (!staging.isValid())
+        return staging.errorString().toStdString();
+    const QString copy = staging.filePath(QStringLiteral("copy.ini"));
+    const QString written = staging.filePath(QStringLiteral("written.ini"));
+    if (!CopyIfThere(target, copy))
+        return "the present file cannot be copied";
+    // QSettings takes a file for written that a full disk has cut short, so there must be room for
+    // it beforehand: a text takes up to three times its length in the file.
+    if (!HasRoom(staging, 3 * (QFileInfo(target).size() + UnsavedSize()) + 4096))
+        return "there is no room for it";
+    if (!WriteValues(copy, written))
+        return "it cannot be written whole";
+    return ReplaceFile(target, written);
+}
+
+qint64 OLAppSettings::UnsavedSize() const
+{
+    std::size_t size = 0;
+    for (const auto &[key, value] : m_unsaved)
+        size += key.size() + value.size();
+    return static_cast<qint64>(size);
+}
+
+// Sets the unsaved values in the file copy, which becomes written if all of it could be written. A
+// format error is about the text that was there before, and is no failure.
+bool OLAppSettings::WriteValues(const QString &copy, const QString &written) const
+{
+    QSettings settings(copy, QSettings::IniFormat);
+    for (const auto &[key, value] : m_unsaved)
+        settings.setValue(ToQString(key), ToQString(value));
+    settings.sync();
+    return settings.status() != QSettings::AccessError && QFile::rename(copy, written)
+            && IsComplete(written);
+}
+
+} // namespace Orlimo

@@ -1,0 +1,7 @@
+#include "OLMediaCodecs.h"
+
+namespace Orlimo {
+
+const std::string OLFormatNameMP4 = "MP4";
+
+} // namespace Orlimo

@@ -1,0 +1,284 @@
+#include "MessageRecorder.h"
+#include "TestCase.h"
+
+#include "IOLAppSettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <optional>
+
+using Orlimo::IOLAppSettings;
+
+namespace {
+
+// A disk that is full: no file grows beyond a number of bytes for as long as the object lives.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t size)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_previous);
+        const rlimit limit { size, m_previous.rlim_max };
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_previous);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+
+private:
+    rlimit m_previous {};
+};
+
+QByteArray Content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Create(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write the file");
+}
+
+} // namespace
+
+class tst_IOLAppSettings : public Test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theStoreIsTheOnlyOne()
+    {
+        QVERIFY(IOLAppSettings::Shared());
+        QCOMPARE(IOLAppSettings::Shared(), IOLAppSettings::Shared());
+    }
+
+    void anUnknownKeyHasAnEmptyValue()
+    {
+        QCOMPARE(IOLAppSettings::Shared()->Value("nobody/set/this"), std::string());
+    }
+
+    void anEmptyKeyIsIgnored()
+    {
+        IOLAppSettings::Shared()->SetValue("value", "");
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(IOLAppSettings::Shared()->Value(""), std::string());
+    }
+
+    void aValueIsThereBeforeItIsSaved()
+    {
+        IOLAppSettings::Shared()->SetValue("first", "key");
+        IOLAppSettings::Shared()->SetValue("second", "key");
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string("second"));
+        QVERIFY(!QFileInfo::exists(FilePath()));
+    }
+
+    void saveWritesTheIniFileOfTheApplication()
+    {
+        IOLAppSettings::Shared()->SetValue("saved", "key");
+        IOLAppSettings::Shared()->Save();
+        QVERIFY(FilePath().endsWith(QStringLiteral("/Test Organisation/Test Application.ini")));
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=saved\n"));
+        QCOMPARE(QDir(QFileInfo(FilePath()).path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList { QStringLiteral("Test Application.ini") });
+    }
+
+    void valuesComeBackAsTheyWereSet_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("value");
+        QTest::newRow("empty") << QByteArray("a") << QByteArray();
+        QTest::newRow("beyond ascii") << QByteArray("grö/ße 日本") << QByteArray("äß 日本 𐐀");
+        QTest::newRow("list") << QByteArray("a") << QByteArray("1, 2; 3=4");
+        QTest::newRow("json") << QByteArray("b") << QByteArray("{\"a\":[\"\\\"\",null]}");
+        QTest::newRow("lines") << QByteArray("c") << QByteArray("[x]\r\nkey=1\n;\n#\t\n");
+        QTest::newRow("spaces") << QByteArray("d d") << QByteArray("  a  ");
+        QTest::newRow("like a variant") << QByteArray("e") << QByteArray("@ByteArray(a)");
+        QTest::newRow("at sign") << QByteArray("f") << QByteArray("@@a@");
+        QTest::newRow("percent") << QByteArray("%20") << QByteArray("%20%%\\x41");
+        QTest::newRow("zero character") << QByteArray("g") << QByteArray("a\0b", 3);
+        QTest::newRow("in the general group") << QByteArray("General/key") << QByteArray("a");
+        QTest::newRow("long") << QByteArray("h") << QByteArray(1'000'000, 'x');
+    }
+
+    void valuesComeBackAsTheyWereSet()
+    {
+        QFETCH(const QByteArray, key);
+        QFETCH(const QByteArray, value);
+        IOLAppSettings::Shared()->SetValue(value.toStdString(), key.toStdString());
+        QCOMPARE(IOLAppSettings::Shared()->Value(key.toStdString()), value.toStdString());
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(IOLAppSettings::Shared()->Value(key.toStdString()), value.toStdString());
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QString::fromUtf8(key)).toString().toUtf8(), value);
+    }
+
+    void saveKeepsWhatOthersWrote()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "[Host]\ngeometry=1\n");
+        IOLAppSettings::Shared()->SetValue("ours", "key");
+        IOLAppSettings::Shared()->Save();
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("Host/geometry")).toString(), QStringLiteral("1"));
+        QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QStringLiteral("ours"));
+        QCOMPARE(IOLAppSettings::Shared()->Value("Host/geometry"), std::string("1"));
+    }
+
+    void saveKeepsToFilesOfOtherPrograms_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("section without a name") << QByteArray("[]\na=1\n");
+        QTest::newRow("key that begins with a slash") << QByteArray("/opt/tool=1\n");
+        QTest::newRow("key of the general section") << QByteArray("general/x=1\n");
+        QTest::newRow("backslashes") << QByteArray("[General]\n\\\\server\\share=1\n");
+    }
+
+    void saveKeepsToFilesOfOtherPrograms()
+    {
+        QFETCH(const QByteArray, content);
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), content);
+        IOLAppSettings::Shared()->SetValue("ours", "key");
+        IOLAppSettings::Shared()->Save();
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QStringLiteral("ours"));
+    }
+
+    void aKeyOfSlashesIsIgnored()
+    {
+        IOLAppSettings::Shared()->SetValue("value", "//");
+        IOLAppSettings::Shared()->Save();
+        QVERIFY(!QFileInfo::exists(FilePath()));
+    }
+
+    void bytesThatAreNotUtf8AreReplaced()
+    {
+        IOLAppSettings::Shared()->SetValue("abc\xE2\x82", "key");
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(IOLAppSettings::Shared()->Value("key").substr(0, 6),
+                 std::string("abc\xEF\xBF\xBD"));
+    }
+
+    void savesInQuickSuccessionAreToldApart()
+    {
+        for (int i = 100; i < 400; ++i) {
+            IOLAppSettings::Shared()->SetValue(std::to_string(i), "key");
+            IOLAppSettings::Shared()->Save();
+            QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::to_string(i));
+        }
+    }
+
+    void theSettingsOfTheWholeOrganisationDoNotCount()
+    {
+        const QString organization = QFileInfo(FilePath()).path() + QStringLiteral(".ini");
+        Create(organization, "[General]\nkey=another program's\n");
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string());
+    }
+
+    void saveReplacesAFileThatIsNotSettings()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "no settings\n");
+        IOLAppSettings::Shared()->SetValue("ours", "key");
+        IOLAppSettings::Shared()->Save();
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QStringLiteral("ours"));
+    }
+
+    void aFolderThatCannotBeMadeIsLoggedAndTheNextSaveWrites()
+    {
+        const QString blocked = m_folder->filePath(QStringLiteral("blocked"));
+        Create(blocked, "a file");
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, blocked);
+        IOLAppSettings::Shared()->SetValue("late", "key");
+        ExpectFailedSave();
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string("late"));
+        QCOMPARE(Content(blocked), QByteArray("a file"));
+        ExpectFailedSave();
+
+        QVERIFY(QFile::remove(blocked));
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=late\n"));
+    }
+
+    void aFullDiskLeavesThePreviousFileAndTheNextSaveWrites_data()
+    {
+        QTest::addColumn<int>("space");
+        QTest::addColumn<int>("length");
+        QTest::newRow("no space at all") << 0 << 10;
+        QTest::newRow("space for some of a short file") << 2000 << 8000;
+        QTest::newRow("space for some of a long file") << 20'000 << 200'000;
+    }
+
+    void aFullDiskLeavesThePreviousFileAndTheNextSaveWrites()
+    {
+        QFETCH(const int, space);
+        QFETCH(const int, length);
+        IOLAppSettings::Shared()->SetValue("previous", "key");
+        IOLAppSettings::Shared()->Save();
+        const QByteArray previous = Content(FilePath());
+        QCOMPARE(previous, QByteArray("[General]\nkey=previous\n"));
+
+        const QByteArray value(length, 'x');
+        IOLAppSettings::Shared()->SetValue(value.toStdString(), "key");
+        {
+            const FullDisk fullDisk(static_cast<rlim_t>(space));
+            ExpectFailedSave();
+        }
+        QCOMPARE(Content(FilePath()), previous);
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), value.toStdString());
+
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(FilePath()), "[General]\nkey=" + value + '\n');
+    }
+
+    void cleanup()
+    {
+        // What a test could not save must not turn up in the next.
+        IOLAppSettings::Shared()->Save();
+    }
+
+private:
+    // Every test has a folder of its own.
+    void prepare() override
+    {
+        m_folder.emplace();
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder->path());
+    }
+
+    static QString FilePath()
+    {
+        return QSettings(QSettings::IniFormat, QSettings::UserScope,
+                         QCoreApplication::organizationName(), QCoreApplication::applicationName())
+                .fileName();
+    }
+
+    static void ExpectFailedSave()
+    {
+        Test::MessageRecorder recorder;
+        IOLAppSettings::Shared()->Save();
+        const QList<Test::Message> messages = recorder.Take();
+        QCOMPARE(messages.size(), 1);
+        QCOMPARE(messages.first().type, QtWarningMsg);
+        QVERIFY2(messages.first().text.contains(FilePath()), qPrintable(messages.first().text));
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+};
+
+ORLIMO_TEST_MAIN(tst_IOLAppSettings)
+
+#include "tst_iolappsettings.moc"
