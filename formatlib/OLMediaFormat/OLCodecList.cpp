@@ -1,0 +1,82 @@
+#include "OLCodecList.h"
+
+#include "OLCodecPreset.h"
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+
+namespace Orlimo {
+
+namespace {
+
+std::mutex codecMaking;
+
+} // namespace
+
+OLCodecList::OLCodecList(OLEncoderSetPointer set, int current, std::vector<OLEncoderChoice> choices)
+    : m_set(std::move(set))
+    , m_choices(std::move(choices))
+    , m_current(current)
+{
+}
+
+OLCodecList::OLCodecList(const OLCodecList &other)
+    : m_set(other.m_set)
+    , m_choices(other.Choices())
+    , m_current(other.m_current)
+{
+}
+
+OLCodecList &OLCodecList::operator=(const OLCodecList &other)
+{
+    return *this = OLCodecList(other);
+}
+
+std::vector<OLEncoderChoice> OLCodecList::Choices() const
+{
+    const std::lock_guard lock(codecMaking);
+    if (m_codecs.empty())
+        return m_choices;
+    std::vector<OLEncoderChoice> choices;
+    for (int i = 0; i < Count(); ++i) {
+        const auto &codec = m_codecs[static_cast<std::size_t>(i)];
+        const OLOptionIndices options = codec ? codec->CurrentOptions() : OptionsOf(i);
+        if (options != m_set->encoders[static_cast<std::size_t>(i)]->defaults)
+            choices.push_back({ i, options });
+    }
+    return choices;
+}
+
+int OLCodecList::Count() const
+{
+    return m_set ? static_cast<int>(m_set->encoders.size()) : 0;
+}
+
+std::shared_ptr<OLCodecPreset> OLCodecList::At(int index) const
+{
+    if (!Contains(index))
+        return nullptr;
+    const auto place = static_cast<std::size_t>(index);
+    const std::lock_guard lock(codecMaking);
+    if (m_codecs.empty())
+        m_codecs.resize(m_set->encoders.size());
+    if (!m_codecs[place])
+        m_codecs[place] = std::make_shared<OLCodecPreset>(m_set->encoders[place], OptionsOf(index));
+    return m_codecs[place];
+}
+
+void OLCodecList::SetCurrentIndex(int index)
+{
+    if (Contains(index))
+        m_current = index;
+}
+
+OLOptionIndices OLCodecList::OptionsOf(int index) const
+{
+    const auto choice = std::ranges::lower_bound(m_choices, index, {}, &OLEncoderChoice::encoder);
+    const bool chosen = choice != m_choices.end() && choice->encoder == index;
+    return chosen ? choice->options : m_set->encoders[static_cast<std::size_t>(index)]->defaults;
+}
+
+} // namespace Orlimo

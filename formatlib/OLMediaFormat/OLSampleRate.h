@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace Orlimo {
+
+/// One entry of an encoder's list of sample rates. A plain value.
+struct OLSampleRate
+{
+    std::string text; ///< what the user sees, translated at display
+    int hertz = 0;    ///< samples per second; 0 for the rate of the source
+
+    const std::string &SampleRateText() const { return text; }
+
+    bool operator==(const OLSampleRate &) const = default;
+};
+
+} // namespace Orlimo
