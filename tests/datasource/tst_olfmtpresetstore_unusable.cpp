@@ -1,0 +1,108 @@
+#include "TestCase.h"
+
+#include "FormatFiles.h"
+#include "FormatObjects.h"
+#include "StoredPresets.h"
+
+#include "OLFmtPresetDataSource.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::literals;
+
+using Orlimo::IOLFmtPresetDataSource;
+using Orlimo::OLFmtPresetDataSource;
+using Test::customKey;
+using Test::MakeItem;
+using Test::recentKey;
+using Test::Settings;
+using Test::Store;
+using Test::Stored;
+using Test::StoredChildNames;
+
+class tst_OLFmtPresetStore_Unusable : public Test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unusableValuesGiveFreshTreesAndStayAsTheyAre_data();
+    void unusableValuesGiveFreshTreesAndStayAsTheyAre();
+    void theNextSaveReplacesAnUnusableValue();
+
+private:
+    std::shared_ptr<IOLFmtPresetDataSource> m_dataSource;
+
+    void prepare() override
+    {
+        QFile::remove(Settings().fileName());
+        restart();
+    }
+
+    void restart() { m_dataSource = std::make_shared<OLFmtPresetDataSource>(); }
+
+    void choose(std::initializer_list<const char *> names) const
+    {
+        for (const char *name : names)
+            m_dataSource->AddRecentItem(MakeItem(name));
+    }
+
+    void verifyFreshTrees() const
+    {
+        QVERIFY(m_dataSource->GetRecentItems().empty());
+        QCOMPARE(m_dataSource->GetCustomFormatNode()->Name(), "Custom"s);
+        QCOMPARE(m_dataSource->GetCustomFormatNode()->ChildCount(), 0);
+    }
+};
+
+void tst_OLFmtPresetStore_Unusable::unusableValuesGiveFreshTreesAndStayAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    const auto json = [](const char *title, const QByteArray &text) {
+        QTest::newRow(title) << text.toBase64();
+    };
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("not base64") << QByteArray("§ not base64 §");
+    QTest::newRow("JSON without base64") << Test::Description("Recent");
+    QTest::newRow("base64 of nothing") << QByteArray("====");
+    QTest::newRow("cut base64") << Test::Description("Recent").toBase64().chopped(3);
+    QTest::newRow("huge, not base64") << QByteArray(8 << 20, '!');
+    json("not JSON", "Recent");
+    json("binary", QByteArray("\0\xFF\0", 3));
+    json("cut JSON", Test::Description("Recent").chopped(1));
+    json("huge, not JSON", QByteArray(8 << 20, 'x'));
+    json("null", "null");
+    json("text", R"("Recent")");
+    json("array", "[1,2]");
+    json("no root", R"({"version":1})");
+    json("later version", R"({"version":2,"root":{"name":"Recent"}})");
+    json("bare node", R"({"name":"Recent"})");
+    json("nodes 1100 levels deep", Test::DeepDescription(1'100));
+    json("arrays a million levels deep", QByteArray(1'000'000, '['));
+}
+
+void tst_OLFmtPresetStore_Unusable::unusableValuesGiveFreshTreesAndStayAsTheyAre()
+{
+    QFETCH(const QByteArray, value);
+    Store(value);
+    const QByteArray before = Test::SettingsFile();
+    restart();
+    verifyFreshTrees();
+    choose({ "A" });
+    m_dataSource.reset();
+    QVERIFY(Test::SettingsFile() == before);
+    QVERIFY(Stored(recentKey) == value);
+    QVERIFY(Stored(customKey) == value);
+}
+
+void tst_OLFmtPresetStore_Unusable::theNextSaveReplacesAnUnusableValue()
+{
+    Store("garbage");
+    restart();
+    choose({ "A" });
+    m_dataSource->SaveRecentPresets();
+    QCOMPARE(StoredChildNames(recentKey), "A"s);
+    QCOMPARE(Stored(customKey), QByteArray("garbage"));
+}
+
+ORLIMO_TEST_MAIN(tst_OLFmtPresetStore_Unusable)
+
+#include "tst_olfmtpresetstore_unusable.moc"
