@@ -1,0 +1,46 @@
+#include "RowClicks.h"
+
+#include <QTest>
+#include <QWindow>
+
+namespace Test {
+
+QRect RowOnScreen(const QListWidget &list, int row)
+{
+    const QRect box = list.visualItemRect(list.item(row));
+    return { list.viewport()->mapToGlobal(box.topLeft()), box.size() };
+}
+
+QRect ActionBoxOnScreen(const QListWidget &list, int row)
+{
+    const QRect box = RowOnScreen(list, row);
+    return { box.right() - 27, box.center().y() - 8, 17, 17 };
+}
+
+void ClickOnScreen(QWidget &widget, QPoint point)
+{
+    QCursor::setPos(point);
+    QWindow *window = widget.window()->windowHandle();
+    QTest::mouseClick(window, Qt::LeftButton, {}, window->mapFromGlobal(point));
+}
+
+void ClickRow(QListWidget &list, int row)
+{
+    const QRect box = RowOnScreen(list, row);
+    ClickOnScreen(list, { box.left() + 20, box.center().y() });
+}
+
+void ClickAction(QListWidget &list, int row)
+{
+    ClickOnScreen(list, ActionBoxOnScreen(list, row).center());
+}
+
+QStringList RowTitles(const QListWidget &list)
+{
+    QStringList titles;
+    for (int row = 0; row < list.count(); ++row)
+        titles.append(list.item(row)->data(Qt::AccessibleTextRole).toString());
+    return titles;
+}
+
+} // namespace Test

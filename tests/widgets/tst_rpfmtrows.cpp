@@ -1,0 +1,104 @@
+#include "TestCase.h"
+
+#include "RPFmtItemDataWdg.h"
+#include "RPFmtRows.h"
+#include "TreeBuilder.h"
+
+#include "IOLFormatNode.h"
+#include "IOLFormatPreset.h"
+
+#include <QListWidget>
+#include <QPointer>
+
+using namespace Orlimo;
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+} // namespace
+
+class tst_RPFmtRows : public Test::TestCase
+{
+    Q_OBJECT
+
+private:
+    static RPFmtItemDataWdg *rowAt(const QListWidget &list, int index)
+    {
+        return qobject_cast<RPFmtItemDataWdg *>(list.itemWidget(list.item(index)));
+    }
+
+private Q_SLOTS:
+    void noRowsLeaveTheListEmpty()
+    {
+        QListWidget list;
+        FillRows(list, 0, [](RPFmtItemDataWdg &, int) { QFAIL("there is no row to set up"); });
+        QCOMPARE(list.count(), 0);
+    }
+
+    void everyRowIsSetUpOnceAndInOrder()
+    {
+        QListWidget list;
+        QList<int> indices;
+        QList<RPFmtItemDataWdg *> rows;
+        FillRows(list, 3, [&](RPFmtItemDataWdg &row, int index) {
+            indices.append(index);
+            rows.append(&row);
+        });
+        QCOMPARE(indices, QList({ 0, 1, 2 }));
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(rowAt(list, i), rows.at(i));
+    }
+
+    void allItemsAreAddedBeforeTheFirstRowWidget()
+    {
+        QListWidget list;
+        QList<int> counts;
+        FillRows(list, 3, [&](RPFmtItemDataWdg &, int) { counts.append(list.count()); });
+        QCOMPARE(counts, QList({ 3, 3, 3 }));
+    }
+
+    void everyRowHasTheHeightOfTheLists()
+    {
+        QListWidget list;
+        FillRows(list, 2, [](RPFmtItemDataWdg &row, int) { row.preset = Test::MakePreset("HD"); });
+        list.resize(300, 300);
+        list.grab(); // lays the rows out
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(list.item(i)->sizeHint(), QSize(0, 53));
+            QCOMPARE(list.visualItemRect(list.item(i)).height(), 53);
+            QCOMPARE(rowAt(list, i)->size(), QSize(list.viewport()->width(), 53));
+        }
+    }
+
+    void rowsTrackTheMouseAndBelongToTheList()
+    {
+        QListWidget list;
+        FillRows(list, 1, [](RPFmtItemDataWdg &row, int) { QVERIFY(row.hasMouseTracking()); });
+        QVERIFY(rowAt(list, 0)->hasMouseTracking());
+        QVERIFY(list.isAncestorOf(rowAt(list, 0)));
+        const QPointer<QWidget> row = rowAt(list, 0);
+        list.clear();
+        QTRY_VERIFY(row.isNull());
+    }
+
+    void theTextsOfTheRowsAreAccessible()
+    {
+        QListWidget list;
+        FillRows(list, 2, [](RPFmtItemDataWdg &row, int index) {
+            if (index == 0)
+                row.node = Test::MakeNode("MP4", "MP4 file format");
+            else
+                row.preset = Test::MakePreset("HD 720P", "H.264");
+        });
+        QCOMPARE(list.item(0)->data(Qt::AccessibleTextRole), QVariant(u"MP4"_s));
+        QCOMPARE(list.item(0)->data(Qt::AccessibleDescriptionRole).toString(), QString());
+        QCOMPARE(list.item(1)->data(Qt::AccessibleTextRole), QVariant(u"HD 720P"_s));
+        QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole), QVariant(u"H.264"_s));
+        QCOMPARE(list.item(0)->text(), QString());
+    }
+};
+
+ORLIMO_TEST_MAIN(tst_RPFmtRows)
+
+#include "tst_rpfmtrows.moc"
