@@ -1,0 +1,199 @@
+#include "TestCase.h"
+
+#include "RPFmtItemDataWdg.h"
+#include "RPFmtNodeWdg.h"
+#include "RowClicks.h"
+#include "TreeBuilder.h"
+
+#include "IOLFormatNode.h"
+#include "IOLFormatPreset.h"
+
+using namespace Orlimo;
+using Test::MakeCategory;
+using Test::MakeFormat;
+using Test::RowTitles;
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+RPFmtItemDataWdg *RowAt(const QListWidget *list, int index)
+{
+    return qobject_cast<RPFmtItemDataWdg *>(list->itemWidget(list->item(index)));
+}
+
+QImage ImageOf(const QIcon &icon)
+{
+    return icon.pixmap(64, 64).toImage();
+}
+
+bool Show(RPFmtNodeWdg &page)
+{
+    page.setGeometry(50, 50, 700, 400);
+    page.show();
+    return QTest::qWaitForWindowExposed(&page);
+}
+
+} // namespace
+
+// What the two lists show of a node and of a selected child.
+class tst_RPFmtNodeWdg : public Test::TestCase
+{
+    Q_OBJECT
+
+private:
+    std::shared_ptr<IOLFormatNode> video;
+
+    void prepare() override
+    {
+        video = MakeCategory("Video",
+                             { MakeFormat("MP4", { "HD 1080P", "SD 480P", "mobile" }),
+                               MakeFormat("AVI", { "DivX", "Xvid" }),
+                               MakeFormat("MKV", { "HD 720P" }) });
+    }
+
+    static void compareLists(const RPFmtNodeWdg &page, const QStringList &nodes,
+                             const QStringList &presets)
+    {
+        QCOMPARE(RowTitles(*page.NodeList()), nodes);
+        QCOMPARE(RowTitles(*page.FormatList()), presets);
+    }
+
+    static void compareCurrentRows(const RPFmtNodeWdg &page, int node, int preset)
+    {
+        QCOMPARE(page.NodeList()->currentRow(), node);
+        QCOMPARE(page.FormatList()->currentRow(), preset);
+    }
+
+private Q_SLOTS:
+    void aNodeShowsItsChildrenAndThePresetsOfTheFirst()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        compareLists(page, { u"MP4"_s, u"AVI"_s, u"MKV"_s },
+                     { u"HD 1080P"_s, u"SD 480P"_s, u"mobile"_s });
+        compareCurrentRows(page, 0, 0);
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(RowAt(page.NodeList(), i)->node, video->ChildAt(i));
+            QVERIFY(RowAt(page.NodeList(), i)->actionIcon.isNull());
+            QCOMPARE(RowAt(page.FormatList(), i)->preset, video->FirstChild()->PresetAt(i));
+        }
+    }
+
+    void rowsAreFiftyThreePixelsHighAndTrackTheMouse()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QVERIFY(Show(page));
+        for (const QListWidget *list : { page.NodeList(), page.FormatList() }) {
+            QCOMPARE(list->item(1)->sizeHint(), QSize(0, 53));
+            QCOMPARE(RowAt(list, 1)->geometry(), QRect(0, 53, list->viewport()->width(), 53));
+            QVERIFY(RowAt(list, 1)->hasMouseTracking());
+        }
+    }
+
+    void theActionOfAPresetIsToEditItOrOnACustomPageToDeleteIt()
+    {
+        RPFmtNodeWdg page(nullptr);
+        for (const bool custom : { false, true }) {
+            page.SetFormatNode(video, custom);
+            const QIcon expected(custom ? u":/OLMediaFormatPopup/trash.png"_s
+                                        : u":/OLMediaFormatPopup/setting.png"_s);
+            for (int i = 0; i < 3; ++i)
+                QCOMPARE(ImageOf(RowAt(page.FormatList(), i)->actionIcon), ImageOf(expected));
+        }
+    }
+
+    void descriptionsBeginRightOfTheWidestPresetName()
+    {
+        const QFont usual = QApplication::font();
+        QFont larger(usual);
+        larger.setPointSize(20);
+        QApplication::setFont(larger);
+        RPFmtNodeWdg page(nullptr);
+        page.FormatList()->setFont(usual);
+        page.SetFormatNode(video, false);
+        QApplication::setFont(usual);
+        const int widest = QFontMetrics(larger).size(0, u"HD 1080P"_s).width();
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(RowAt(page.FormatList(), i)->textWidth, widest + 53 + 30);
+    }
+
+    void anEmptyPointerEmptiesTheLists()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SetFormatNode(nullptr, false);
+        compareLists(page, {}, {});
+        compareCurrentRows(page, -1, -1);
+    }
+
+    void aNodeWithoutChildrenShowsNothing()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SetFormatNode(MakeCategory("Audio", {}), false);
+        compareLists(page, {}, {});
+        compareCurrentRows(page, -1, -1);
+    }
+
+    void aChildWithoutPresetsShowsNoPresets()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(MakeCategory("Video", { MakeFormat("MP4", {}) }), false);
+        compareLists(page, { u"MP4"_s }, {});
+        compareCurrentRows(page, 0, -1);
+    }
+
+    void aClickOnAChildShowsItsPresets()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 1);
+        QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"DivX"_s, u"Xvid"_s }));
+        compareCurrentRows(page, 1, 0);
+        Test::ClickAction(*page.NodeList(), 2); // a node has no action
+        QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"HD 720P"_s }));
+        compareCurrentRows(page, 2, 0);
+    }
+
+    void theArrowKeysShowThePresetsOfTheNextChild()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 0);
+        QTest::keyClick(page.NodeList(), Qt::Key_Down);
+        QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"DivX"_s, u"Xvid"_s }));
+        compareCurrentRows(page, 1, 0);
+    }
+
+    void theWidthOfTheNamesIsThatOfTheSelectedChild()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 1);
+        const QFontMetrics metrics { QFont() };
+        const int widest = std::max(metrics.size(0, u"DivX"_s).width(),
+                                    metrics.size(0, u"Xvid"_s).width());
+        QCOMPARE(RowAt(page.FormatList(), 0)->textWidth, widest + 83);
+    }
+
+    void theNodeIsReleasedWithThePage()
+    {
+        const std::weak_ptr<IOLFormatNode> observed = video;
+        {
+            RPFmtNodeWdg page(nullptr);
+            page.SetFormatNode(std::move(video), false);
+            page.SearchFormat(u"HD"_s);
+            QVERIFY(!observed.expired());
+        }
+        QVERIFY(observed.expired());
+    }
+};
+
+ORLIMO_TEST_MAIN(tst_RPFmtNodeWdg)
+
+#include "tst_rpfmtnodewdg.moc"

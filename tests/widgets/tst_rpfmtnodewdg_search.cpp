@@ -1,0 +1,181 @@
+#include "TestCase.h"
+
+#include "RPFmtItemDataWdg.h"
+#include "RPFmtNodeWdg.h"
+#include "RowClicks.h"
+#include "TreeBuilder.h"
+
+#include "IOLFormatNode.h"
+#include "IOLFormatPreset.h"
+
+#include <QPointer>
+
+using namespace Orlimo;
+using Test::MakeCategory;
+using Test::MakeFormat;
+using Test::RowTitles;
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+RPFmtItemDataWdg *RowAt(const QListWidget *list, int index)
+{
+    return qobject_cast<RPFmtItemDataWdg *>(list->itemWidget(list->item(index)));
+}
+
+bool Show(RPFmtNodeWdg &page)
+{
+    page.setGeometry(50, 50, 700, 400);
+    page.show();
+    return QTest::qWaitForWindowExposed(&page);
+}
+
+} // namespace
+
+// What the two lists show of a search.
+class tst_RPFmtNodeWdg_Search : public Test::TestCase
+{
+    Q_OBJECT
+
+private:
+    std::shared_ptr<IOLFormatNode> video;
+
+    void prepare() override
+    {
+        video = MakeCategory("Video",
+                             { MakeFormat("MP4", { "HD 1080P", "SD 480P", "mobile" }),
+                               MakeFormat("AVI", { "DivX", "Xvid" }),
+                               MakeFormat("MKV", { "HD 720P" }) });
+    }
+
+    static void compareLists(const RPFmtNodeWdg &page, const QStringList &nodes,
+                             const QStringList &presets)
+    {
+        QCOMPARE(RowTitles(*page.NodeList()), nodes);
+        QCOMPARE(RowTitles(*page.FormatList()), presets);
+    }
+
+    static void compareCurrentRows(const RPFmtNodeWdg &page, int node, int preset)
+    {
+        QCOMPARE(page.NodeList()->currentRow(), node);
+        QCOMPARE(page.FormatList()->currentRow(), preset);
+    }
+
+    void compareWithTheWholeNode(const RPFmtNodeWdg &page)
+    {
+        compareLists(page, { u"MP4"_s, u"AVI"_s, u"MKV"_s },
+                     { u"HD 1080P"_s, u"SD 480P"_s, u"mobile"_s });
+    }
+
+private Q_SLOTS:
+    void aSearchShowsWhatMatches_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("nodes");
+        QTest::addColumn<QStringList>("presets");
+        QTest::newRow("preset of the first child")
+                << u"mobile"_s << QStringList { u"MP4"_s } << QStringList { u"mobile"_s };
+        QTest::newRow("preset of another child")
+                << u"Xvid"_s << QStringList { u"AVI"_s } << QStringList { u"Xvid"_s };
+        QTest::newRow("presets of two children")
+                << u"HD"_s << QStringList { u"MP4"_s, u"MKV"_s } << QStringList { u"HD 1080P"_s };
+        QTest::newRow("child") << u"avi"_s << QStringList { u"AVI"_s }
+                               << QStringList { u"DivX"_s, u"Xvid"_s };
+        QTest::newRow("nothing") << u"quicktime"_s << QStringList() << QStringList();
+    }
+
+    void aSearchShowsWhatMatches()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QStringList, nodes);
+        QFETCH(const QStringList, presets);
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(text);
+        compareLists(page, nodes, presets);
+        const int current = nodes.isEmpty() ? -1 : 0;
+        compareCurrentRows(page, current, current);
+    }
+
+    void theSelectedChildOfASearchShowsWhatMatchesInIt()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"HD"_s);
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 1);
+        QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"HD 720P"_s }));
+    }
+
+    void everySearchLooksAtTheWholeNode()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"Xvid"_s);
+        page.SearchFormat(u"mobile"_s);
+        compareLists(page, { u"MP4"_s }, { u"mobile"_s });
+    }
+
+    void anEmptyTextShowsTheWholeNodeAgain()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"quicktime"_s);
+        page.SearchFormat(QString());
+        compareWithTheWholeNode(page);
+        compareCurrentRows(page, 0, 0);
+    }
+
+    void aResetShowsTheWholeNodeAgain()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"Xvid"_s);
+        page.ResetSearch();
+        compareWithTheWholeNode(page);
+        compareCurrentRows(page, 0, 0);
+    }
+
+    void aResetWithoutASearchChangesNothing()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"Xvid"_s);
+        page.SearchFormat(QString());
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 1);
+        Test::ClickRow(*page.FormatList(), 1);
+        const QPointer<QWidget> node = RowAt(page.NodeList(), 1);
+        const QPointer<QWidget> preset = RowAt(page.FormatList(), 1);
+        page.ResetSearch();
+        compareCurrentRows(page, 1, 1);
+        QVERIFY(node && preset);
+        QCOMPARE(RowAt(page.NodeList(), 1), node.get());
+        QCOMPARE(RowAt(page.FormatList(), 1), preset.get());
+    }
+
+    void anotherNodeDropsTheSearch()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        page.SearchFormat(u"Xvid"_s);
+        page.SetFormatNode(MakeCategory("Audio", { MakeFormat("MP3", { "Best" }) }), false);
+        compareLists(page, { u"MP3"_s }, { u"Best"_s });
+        const QPointer<QWidget> row = RowAt(page.NodeList(), 0);
+        page.ResetSearch();
+        QVERIFY(row);
+        QCOMPARE(RowAt(page.NodeList(), 0), row.get());
+    }
+
+    void aSearchWithoutANodeShowsNothing()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SearchFormat(u"HD"_s);
+        compareLists(page, {}, {});
+    }
+};
+
+ORLIMO_TEST_MAIN(tst_RPFmtNodeWdg_Search)
+
+#include "tst_rpfmtnodewdg_search.moc"
