@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QApplication>
+#include <QPointer>
+#include <QTest>
+
+namespace Test {
+
+// Drives a window that opens modally, and so keeps the test waiting: made before the call that
+// opens the window, it runs action(window) as soon as a modal window of the class is active. The
+// test fails where none has opened by the end of the scope and where action leaves the window open,
+// which is then closed.
+template<class Window>
+class WhenOpen : public QObject
+{
+public:
+    template<class Action>
+    explicit WhenOpen(Action action)
+    {
+        QMetaObject::invokeMethod(
+                this, [this, action] { Run(action); }, Qt::QueuedConnection);
+    }
+
+    ~WhenOpen() override
+    {
+        if (!m_hasRun)
+            QTest::qFail("no modal window of the class has opened", __FILE__, __LINE__);
+    }
+
+private:
+    template<class Action>
+    void Run(const Action &action)
+    {
+        m_hasRun = QTest::qWaitFor([] { return ActiveModal() != nullptr; });
+        const QPointer<Window> window = ActiveModal();
+        if (!window)
+            return;
+        action(*window);
+        if (!window || !window->isVisible())
+            return;
+        QTest::qFail("the modal window has been left open", __FILE__, __LINE__);
+        window->close();
+    }
+
+    static Window *ActiveModal()
+    {
+        auto *window = qobject_cast<Window *>(QApplication::activeModalWidget());
+        return window && window->isActiveWindow() ? window : nullptr;
+    }
+
+    bool m_hasRun = false;
+};
+
+} // namespace Test
