@@ -1,0 +1,67 @@
+#include "OLMediaFormatPopupWin.h"
+
+#include "IOLFmtPresetDataSource.h"
+#include "OLLibraryPin.h"
+#include "OLPopupAnchor.h"
+#include "RPFmtEditingDlg.h"
+#include "RPFmtSelectionDlg.h"
+
+#include <utility>
+
+namespace Orlimo {
+
+void OLMediaFormatPopupWin::ShowFormatPopup(const PopupRect &rect, FmtSelectionCallback callback)
+{
+    Show(ToAnchor(rect), std::move(callback));
+}
+
+void OLMediaFormatPopupWin::ShowFormatPopupAt(const PopupPoint &point,
+                                              FmtSelectionCallback callback)
+{
+    Show(ToAnchor(point), std::move(callback));
+}
+
+bool OLMediaFormatPopupWin::EditFormatPreset(std::shared_ptr<IOLFormatPreset> preset,
+                                             std::shared_ptr<IOLFormatNode> node)
+{
+    KeepLibraryLoaded();
+    return RPFmtEditingDlg::EditPreset(std::move(preset), std::move(node));
+}
+
+void OLMediaFormatPopupWin::PostFormatDataLoaded()
+{
+    RPFmtSelectionDlg *popup = m_selectionPopup;
+    if (popup) {
+        QMetaObject::invokeMethod(
+                popup, [this, popup] { TakeUpFormatData(popup); }, Qt::AutoConnection);
+    }
+}
+
+// The popup adds the categories whenever it is asked to. It is asked after the load and after it
+// was made, in either order, so only the first time that there is a tree counts.
+void OLMediaFormatPopupWin::TakeUpFormatData(RPFmtSelectionDlg *popup)
+{
+    if (m_hasFormatData) {
+        popup->OnArtworkRenewed();
+        return;
+    }
+    m_hasFormatData = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode() != nullptr;
+    popup->OnFormatDataLoaded();
+}
+
+// A load that ends while the popup is being made finds no popup to tell, so its result is looked
+// for once more.
+void OLMediaFormatPopupWin::Show(const QRect &anchor, FmtSelectionCallback callback)
+{
+    if (!m_selectionPopup) {
+        KeepLibraryLoaded();
+        m_selectionPopup = new RPFmtSelectionDlg;
+        m_hasFormatData = m_selectionPopup.load()->HasCategories();
+    }
+    RPFmtSelectionDlg *popup = m_selectionPopup;
+    if (!m_hasFormatData && IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode())
+        TakeUpFormatData(popup);
+    popup->ShowPopup(std::move(callback), anchor);
+}
+
+} // namespace Orlimo

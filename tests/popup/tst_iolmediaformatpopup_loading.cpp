@@ -1,0 +1,192 @@
+#include "PopupDriver.h"
+#include "SampleDescription.h"
+#include "TestCase.h"
+
+#include "IOLArtworkImageGroup.h"
+#include "IOLFmtPresetDataSource.h"
+#include "IOLFormatNode.h"
+#include "IOLMediaFormatPopup.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+
+#include <cstdio>
+#include <functional>
+#include <map>
+
+using namespace Orlimo;
+using namespace Qt::StringLiterals;
+using Test::PopupDriver;
+
+// Each order of loading and showing is run in a process of its own, since a tree that is there once
+// stays for the life of the process. The child prints the tabs it ends with.
+namespace {
+
+class Scenario
+{
+public:
+    explicit Scenario(QString path)
+        : m_path(std::move(path))
+    {
+    }
+
+    void setUp() const { IOLMediaFormatPopup::SetupExternalFormatData(m_path.toStdString()); }
+    static void setUpMissing() { IOLMediaFormatPopup::SetupExternalFormatData("/missing.json"); }
+    static void wait() { IOLMediaFormatPopup::WaitForFormatDataLoadingComplete(); }
+    static void show() { IOLMediaFormatPopup::Shared()->ShowFormatPopup({ 10, 10, 20, 20 }, {}); }
+
+    // Long enough for whatever is posted; ends early when the categories are there.
+    static void handleEvents()
+    {
+        (void)QTest::qWaitFor(
+                [] { return PopupDriver(PopupDriver::FindPopup()).Tabs()->count() > 2; }, 2000);
+        QCoreApplication::processEvents();
+    }
+
+    void replaceArtwork() const
+    {
+        QString artwork = m_path;
+        artwork.replace(u".json"_s, u".icfg"_s);
+        Test::WriteArtwork(artwork, { { 1001, Qt::green } }, { 33 });
+    }
+
+private:
+    QString m_path;
+};
+
+void verify(bool condition, const char *what)
+{
+    if (!condition)
+        qFatal("not so: %s", what);
+}
+
+void loadAfterAFailure(const Scenario &scenario)
+{
+    Scenario::setUpMissing();
+    Scenario::wait();
+    Scenario::show();
+    QCoreApplication::processEvents();
+    verify(PopupDriver(PopupDriver::FindPopup()).Tabs()->count() == 2, "no categories yet");
+    scenario.setUp();
+    Scenario::wait();
+    Scenario::handleEvents();
+}
+
+void loadAgain(const Scenario &scenario)
+{
+    scenario.setUp();
+    Scenario::wait();
+    Scenario::show();
+    const auto dataSource = IOLFmtPresetDataSource::Shared();
+    const auto tree = dataSource->GetDefaultFormatNode();
+    scenario.replaceArtwork();
+    scenario.setUp();
+    Scenario::wait();
+    const PopupDriver driver(PopupDriver::FindPopup());
+    verify(QTest::qWaitFor([&] { return driver.Tabs()->tabIcon(0).isNull(); }),
+           "the tabs show the new artwork, which has nothing for them");
+    verify(driver.Tabs()->tabIcon(1).isNull(), "so do the categories' tabs");
+    verify(dataSource->GetDefaultFormatNode() == tree, "the tree is the first one");
+    verify(!dataSource->GetArtworkGroup(3), "the artwork is the new one");
+    const QImage icon = dataSource->GetArtworkGroup(1001)->Icon().pixmap(33, 33).toImage();
+    verify(icon.pixelColor(16, 16) == QColor(Qt::green), "the artwork is the new one");
+}
+
+const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
+{
+    using S = Scenario;
+    static const std::map<QString, std::function<void(const S &)>> all {
+        { u"set up, wait, show"_s, [](const S &s) { s.setUp(), S::wait(), S::show(); } },
+        { u"set up, wait, show, events"_s,
+          [](const S &s) { s.setUp(), S::wait(), S::show(), S::handleEvents(); } },
+        { u"show, set up, wait, events"_s,
+          [](const S &s) { S::show(), s.setUp(), S::wait(), S::handleEvents(); } },
+        { u"show, set up, wait, show"_s,
+          [](const S &s) { S::show(), s.setUp(), S::wait(), S::show(); } },
+        { u"show, set up, events, wait"_s,
+          [](const S &s) { S::show(), s.setUp(), S::handleEvents(), S::wait(); } },
+        { u"set up, show, events, wait"_s,
+          [](const S &s) { s.setUp(), S::show(), S::handleEvents(), S::wait(); } },
+        { u"set up, show, show, wait, events"_s,
+          [](const S &s) { s.setUp(), S::show(), S::show(), S::wait(), S::handleEvents(); } },
+        { u"failure, then a good load"_s, loadAfterAFailure },
+        { u"a second load"_s, loadAgain },
+    };
+    return all;
+}
+
+int runScenario(const QString &name, const QString &path, int delay)
+{
+    const Scenario scenario(path);
+    if (name == "show at a random moment"_L1) {
+        scenario.setUp();
+        QThread::usleep(static_cast<unsigned long>(delay));
+        Scenario::show();
+        Scenario::handleEvents();
+        Scenario::wait();
+    } else {
+        scenarios().at(name)(scenario);
+    }
+    QCoreApplication::processEvents();
+    const QStringList tabs = PopupDriver(PopupDriver::FindPopup()).TabTexts();
+    std::printf("%s", qPrintable(tabs.join(u'|')));
+    return 0;
+}
+
+} // namespace
+
+class tst_IOLMediaFormatPopup_Loading : public Test::TestCase
+{
+    Q_OBJECT
+
+    // The tabs that a child process ends with; its other output, which tells of warnings, follows.
+    static QString tabsAfter(const QString &scenario, int delay = 0)
+    {
+        const Test::SampleDescription description;
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(),
+                    { u"--scenario"_s, scenario, QString::fromStdString(description.Path()),
+                      QString::number(delay) });
+        if (!child.waitForFinished() || child.exitStatus() != QProcess::NormalExit)
+            return u"the child failed: "_s + QString::fromUtf8(child.readAllStandardError());
+        return QString::fromUtf8(child.readAllStandardOutput() + child.readAllStandardError());
+    }
+
+private Q_SLOTS:
+    void categoriesAppearOnceInWhateverOrder_data()
+    {
+        QTest::addColumn<QString>("scenario");
+        QTest::addColumn<QString>("logged");
+        const QString failure = u"orlimo: Failed load external format /missing.json\n"_s;
+        for (const auto &[name, run] : scenarios())
+            QTest::newRow(qPrintable(name))
+                    << name << (name.startsWith(u"failure"_s) ? failure : u""_s);
+    }
+
+    void categoriesAppearOnceInWhateverOrder()
+    {
+        QFETCH(const QString, scenario);
+        QFETCH(const QString, logged);
+        QCOMPARE(tabsAfter(scenario), u"Recent|Video|Audio|Custom"_s + logged);
+    }
+
+    void categoriesAppearOnceWhenThePopupIsMadeWhileTheLoadEnds()
+    {
+        for (int delay = 0; delay <= 3000; delay += 200)
+            QCOMPARE(tabsAfter(u"show at a random moment"_s, delay),
+                     u"Recent|Video|Audio|Custom"_s);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    if (argc == 5 && qstrcmp(argv[1], "--scenario") == 0) {
+        const Test::IsolatedSettings settings;
+        QApplication application(argc, argv);
+        return runScenario(QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]), atoi(argv[4]));
+    }
+    return Test::Run<tst_IOLMediaFormatPopup_Loading>(argc, argv);
+}
+
+#include "tst_iolmediaformatpopup_loading.moc"
