@@ -1,0 +1,109 @@
+#include "EncoderSettings.h"
+
+#include "FormatText.h"
+
+#include "IOLCodecPreset.h"
+#include "IOLFormatPreset.h"
+
+#include <QCoreApplication>
+
+namespace Host {
+
+using namespace Orlimo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Tr(const char *text)
+{
+    return QCoreApplication::translate("Host::EncoderSettings", text);
+}
+
+QString AsSource()
+{
+    return Tr("as the source");
+}
+
+QString Value(const OLResolution &resolution)
+{
+    if (resolution.width <= 0)
+        return AsSource();
+    return u"%1 x %2 px"_s.arg(resolution.width).arg(resolution.height);
+}
+
+QString Value(const OLFrameRate &rate)
+{
+    if (rate.numerator <= 0)
+        return AsSource();
+    return u"%1/%2 fps"_s.arg(rate.numerator).arg(rate.denominator);
+}
+
+QString Value(const OLQuality &quality)
+{
+    if (quality.constantRateFactor >= 0)
+        return u"CRF %1"_s.arg(quality.constantRateFactor);
+    if (quality.bitRate > 0)
+        return u"%1 bit/s"_s.arg(quality.bitRate);
+    if (quality.bitDepth > 0)
+        return u"%1 bit"_s.arg(quality.bitDepth);
+    return Tr("left to the encoder");
+}
+
+QString Value(const OLChannel &channel)
+{
+    return channel.channels > 0 ? Tr("%1 channels").arg(channel.channels) : AsSource();
+}
+
+QString Value(const OLSampleRate &rate)
+{
+    return rate.hertz > 0 ? u"%1 Hz"_s.arg(rate.hertz) : AsSource();
+}
+
+// An option that an encoder has no list for is empty.
+template<class Option>
+void AppendOption(QList<EncoderSetting> &settings, const QString &name,
+                  const std::shared_ptr<const Option> &option)
+{
+    if (option)
+        settings.append({ name, FormatText(option->text), Value(*option) });
+}
+
+void AppendEncoder(QList<EncoderSetting> &settings, const QString &name,
+                   const IOLCodecPreset &encoder)
+{
+    const QString value = encoder.IsAutoValue() ? Tr("automatic")
+                                                : QString::fromStdString(encoder.Name());
+    settings.append({ name, FormatText(encoder.Name()), value });
+}
+
+void AppendVideo(QList<EncoderSetting> &settings, const IOLCodecPreset &encoder)
+{
+    AppendEncoder(settings, Tr("Video encoder"), encoder);
+    AppendOption(settings, Tr("Resolution"),
+                 encoder.ResolutionAt(encoder.CurrentResolutionIndex()));
+    AppendOption(settings, Tr("Frame rate"), encoder.FrameRateAt(encoder.CurrentFrameRateIndex()));
+    AppendOption(settings, Tr("Video quality"), encoder.QualityAt(encoder.CurrentQualityIndex()));
+}
+
+void AppendAudio(QList<EncoderSetting> &settings, const IOLCodecPreset &encoder)
+{
+    AppendEncoder(settings, Tr("Audio encoder"), encoder);
+    AppendOption(settings, Tr("Channel"), encoder.ChannelAt(encoder.CurrentChannelIndex()));
+    AppendOption(settings, Tr("Sample rate"),
+                 encoder.SampleRateAt(encoder.CurrentSampleRateIndex()));
+    AppendOption(settings, Tr("Audio quality"), encoder.QualityAt(encoder.CurrentQualityIndex()));
+}
+
+} // namespace
+
+QList<EncoderSetting> EncoderSettingsOf(const IOLFormatPreset &preset)
+{
+    QList<EncoderSetting> settings;
+    if (const auto encoder = preset.CurrentVideoCodec())
+        AppendVideo(settings, *encoder);
+    if (const auto encoder = preset.CurrentAudioCodec())
+        AppendAudio(settings, *encoder);
+    return settings;
+}
+
+} // namespace Host

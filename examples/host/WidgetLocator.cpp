@@ -1,0 +1,194 @@
+#include "WidgetLocator.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QWidget>
+
+#include <cstdio>
+#include <optional>
+
+namespace Host {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As QFile and QSocketNotifier know it.
+constexpr int standardInput = 0;
+
+struct Place
+{
+    QRect area; // on the screen
+    QString text;
+};
+
+using MaybePlace = std::optional<Place>;
+
+QRect OnScreen(const QWidget &widget, const QRect &area)
+{
+    return { widget.mapToGlobal(area.topLeft()), area.size() };
+}
+
+QString TextOf(const QWidget &widget)
+{
+    for (const char *property : { "text", "currentText", "windowTitle" }) {
+        const QVariant text = widget.property(property);
+        if (text.isValid())
+            return text.toString();
+    }
+    return {};
+}
+
+MaybePlace PlaceOf(const QWidget *widget)
+{
+    if (!widget)
+        return {};
+    return Place { OnScreen(*widget, widget->rect()), TextOf(*widget) };
+}
+
+// The input dialog has no object name.
+const QWidget *FindWindow(const QString &name)
+{
+    static const QHash<QString, QString> names { { u"host"_s, u"HostWindowClass"_s },
+                                                 { u"output"_s, u"OutputDialogClass"_s },
+                                                 { u"popup"_s, u"RPFmtSelectionDlgClass"_s },
+                                                 { u"dialog"_s, u"RPFmtEditingDlgClass"_s },
+                                                 { u"prompt"_s, u"QInputDialog"_s } };
+    const QString known = names.value(name);
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        const bool named = window->objectName() == known || window->inherits(known.toLatin1());
+        if (!known.isEmpty() && named && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+// Several pages may have a widget of the same name, of which one is shown. Without a name any
+// widget of the class is meant.
+template<class Widget>
+const Widget *FindShown(const QWidget &window, const QString &name = {})
+{
+    for (const Widget *widget : window.findChildren<Widget *>()) {
+        if (widget->isVisible() && (name.isEmpty() || widget->objectName() == name))
+            return widget;
+    }
+    return nullptr;
+}
+
+MaybePlace FindButton(const QString &name)
+{
+    const QString objectName = u"btn"_s + name.left(1).toUpper() + name.mid(1);
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (const auto *button = FindShown<QWidget>(*window, objectName))
+            return PlaceOf(button);
+    }
+    return {};
+}
+
+MaybePlace FindTab(const QWidget &window, const QString &text)
+{
+    const auto *bar = FindShown<QTabBar>(window);
+    for (int i = 0; bar && i < bar->count(); ++i) {
+        if (text.isEmpty() ? i == bar->currentIndex() : bar->tabText(i) == text)
+            return Place { OnScreen(*bar, bar->tabRect(i)), bar->tabText(i) };
+    }
+    return {};
+}
+
+// A row that is scrolled out of sight, if only in part, is not there.
+MaybePlace FindRow(const QWidget &window, const QString &listName, int index)
+{
+    const auto *list = FindShown<QListWidget>(window, listName);
+    const QListWidgetItem *item = list ? list->item(index) : nullptr;
+    const QWidget *row = item ? list->itemWidget(const_cast<QListWidgetItem *>(item)) : nullptr;
+    if (!row || !list->viewport()->rect().contains(list->visualItemRect(item)))
+        return {};
+    return Place { OnScreen(*row, row->rect()), item->data(Qt::AccessibleTextRole).toString() };
+}
+
+MaybePlace FindAction(const QWidget &window, const QString &listName, int index)
+{
+    MaybePlace row = FindRow(window, listName, index);
+    if (row)
+        row->area = { row->area.right() - 27, row->area.center().y() - 8, 17, 17 };
+    return row;
+}
+
+MaybePlace FindCell(const QWidget &window, const QString &tableName, int row, int column)
+{
+    const auto *table = FindShown<QTableWidget>(window, tableName);
+    const QTableWidgetItem *item = table ? table->item(row, column) : nullptr;
+    if (!item)
+        return {};
+    return Place { OnScreen(*table->viewport(), table->visualItemRect(item)), item->text() };
+}
+
+MaybePlace FindInWindow(const QWidget &window, const QStringList &path)
+{
+    const QString kind = path.value(1);
+    const QString name = path.value(2);
+    const int index = path.value(3).toInt();
+    if (kind.isEmpty())
+        return PlaceOf(&window);
+    if (kind == "search"_L1)
+        return PlaceOf(FindShown<QLineEdit>(window));
+    if (kind == "tab"_L1)
+        return FindTab(window, name);
+    if (kind == "row"_L1)
+        return FindRow(window, name, index);
+    if (kind == "action"_L1)
+        return FindAction(window, name, index);
+    if (kind == "cell"_L1)
+        return FindCell(window, name, index, path.value(4).toInt());
+    return PlaceOf(FindShown<QWidget>(window, kind));
+}
+
+MaybePlace Find(const QStringList &path)
+{
+    if (path.first() == "button"_L1)
+        return FindButton(path.value(1));
+    const QWidget *window = FindWindow(path.first());
+    return window ? FindInWindow(*window, path) : MaybePlace();
+}
+
+QString Answer(const QString &question, const MaybePlace &place)
+{
+    if (question == "visible"_L1)
+        return place ? u"yes"_s : u"no"_s;
+    if (!place)
+        return u"none"_s;
+    if (question == "text"_L1)
+        return place->text;
+    const QRect &area = place->area;
+    return u"%1 %2 %3 %4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+}
+
+} // namespace
+
+// Without a buffer of its own, nothing is left in the file when the notifier reports the next line.
+WidgetLocator::WidgetLocator()
+    : m_notifier(standardInput, QSocketNotifier::Read)
+{
+    const bool open = m_input.open(standardInput, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    m_notifier.setEnabled(open);
+    connect(&m_notifier, &QSocketNotifier::activated, this, &WidgetLocator::AnswerLine);
+}
+
+void WidgetLocator::AnswerLine()
+{
+    const QByteArray line = m_input.readLine();
+    if (line.isEmpty()) {
+        m_notifier.setEnabled(false);
+        return;
+    }
+    const QString request = QString::fromUtf8(line).trimmed();
+    const QString question = request.section(u' ', 0, 0);
+    const QString path = request.section(u' ', 1);
+    std::printf("= %s\n", qUtf8Printable(Answer(question, Find(path.split(u'/')))));
+    std::fflush(stdout);
+}
+
+} // namespace Host

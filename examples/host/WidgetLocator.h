@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QFile>
+#include <QObject>
+#include <QSocketNotifier>
+
+namespace Host {
+
+// Tells a driver that has only mouse and keyboard where to click and what there is to see. It
+// answers each line of standard input with a line on standard output and never acts on a widget.
+//
+//   where PATH     "= x y width height" on the screen, or "= none"
+//   visible PATH   "= yes" or "= no"
+//   text PATH      "= " and the text, or "= none"
+//
+//   PATH is a window (host, output, popup, dialog, prompt) or one of
+//   button/NAME           the button btnName in any window
+//   WINDOW/OBJECT         the widget of that object name
+//   WINDOW/search         the line edit
+//   WINDOW/tab            the current tab
+//   WINDOW/tab/TEXT       the tab of that text
+//   WINDOW/row/LIST/N     the whole row N, from 0 on
+//   WINDOW/action/LIST/N  the box of that row's action icon
+//   WINDOW/cell/TABLE/N/M the cell in row N and column M
+//
+// Standard input can be watched in this way on Unix only.
+class WidgetLocator final : public QObject
+{
+    Q_OBJECT
+
+public:
+    WidgetLocator();
+
+private:
+    void AnswerLine();
+
+    QFile m_input;
+    QSocketNotifier m_notifier;
+};
+
+} // namespace Host
