@@ -1,0 +1,117 @@
+// Loads the plugin, plays the scenario, unloads the plugin, and prints a line for each step:
+// whether the picker's library is mapped and whether its resources are registered.
+//
+// unloadinghost PLUGIN DESCRIPTION load|unjoined|popup
+
+#include <QApplication>
+#include <QFile>
+#include <QWidget>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+
+#include <dlfcn.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void Say(const char *line)
+{
+    std::puts(line);
+    std::fflush(stdout);
+}
+
+bool IsMapped()
+{
+    QFile maps(u"/proc/self/maps"_s);
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("/libOLMediaFormatPopup.so");
+}
+
+void SayState(const char *step)
+{
+    const bool registered = QFile::exists(u":/OLMediaFormatPopup/search.png"_s);
+    std::printf("%s: %s, %s\n", step, IsMapped() ? "mapped" : "not mapped",
+                registered ? "with resources" : "without resources");
+    std::fflush(stdout);
+}
+
+// The end of the process is told on the output instead of in a core file.
+void TellHowItEnds()
+{
+    std::set_terminate([] {
+        Say("terminate");
+        std::abort();
+    });
+    std::signal(SIGABRT, [](int) {
+        Say("abort");
+        std::_Exit(3);
+    });
+}
+
+template<class Function>
+Function *Resolve(void *plugin, const char *name)
+{
+    void *const function = dlsym(plugin, name);
+    if (!function) {
+        Say(name);
+        std::_Exit(4);
+    }
+    return reinterpret_cast<Function *>(function);
+}
+
+void Load(void *plugin, const char *description)
+{
+    Resolve<void(const char *)>(plugin, "StartLoading")(description);
+    Resolve<void()>(plugin, "WaitForLoading")();
+    std::printf("categories: %d\n", Resolve<int()>(plugin, "CategoryCount")());
+}
+
+void ShowPopup(void *plugin)
+{
+    Resolve<void()>(plugin, "ShowPopup")();
+    QCoreApplication::processEvents();
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            Say("popup visible");
+    }
+}
+
+int Play(const char *pluginFile, const char *description, const QString &scenario)
+{
+    SayState("before");
+    void *const plugin = dlopen(pluginFile, RTLD_NOW | RTLD_LOCAL);
+    if (!plugin) {
+        Say(dlerror());
+        return 2;
+    }
+    SayState("loaded");
+    if (scenario == "unjoined"_L1)
+        Resolve<void(const char *)>(plugin, "StartLoading")(description);
+    else
+        Load(plugin, description);
+    if (scenario == "popup"_L1)
+        ShowPopup(plugin);
+    dlclose(plugin);
+    SayState("unloaded");
+    QCoreApplication::processEvents();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 4)
+        return 2;
+    TellHowItEnds();
+    const QString scenario = QString::fromLocal8Bit(argv[3]);
+    // Only the popup needs more than the application object of QtCore.
+    const std::unique_ptr<QCoreApplication> application(scenario == "popup"_L1
+                                                                ? new QApplication(argc, argv)
+                                                                : new QCoreApplication(argc, argv));
+    return Play(argv[1], argv[2], scenario);
+}
