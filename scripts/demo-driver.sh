@@ -1,0 +1,342 @@
+# shellcheck shell=bash disable=SC2034
+# A user of the example host on a virtual screen: real mouse and key events, and what there is to see.
+#
+# Everything waits for a condition, and the first one that does not come about ends the demo with the
+# name of the step. The host's widget locator says where the widgets are; it never acts on them.
+
+screen_width=1280
+screen_height=800
+patience=20 # seconds
+
+# Set by start_driver: the host to drive, where its output and the pictures go.
+host_program=
+work=
+pictures=
+
+host_pid=
+host_in=
+host_out=
+helpers=()
+choices=()  # every choice that the host printed
+expected=() # those that the steps so far call for
+step_number=0
+step_name=start
+
+# Set by the verbs that look something up.
+answer=
+x=0
+y=0
+width=0
+height=0
+row_path=
+action_path=
+
+# --- Steps -------------------------------------------------------------------------------------
+
+# step NAME: begins a step.
+step() {
+    step_number=$((step_number + 1))
+    step_name=$(printf '%02d-%s' "$step_number" "$1")
+}
+
+# finish [CHOICE]: ends the step, in which the host must have printed this choice and no other.
+finish() {
+    if (($#)); then
+        expected+=("$1")
+        wait_until "\"$1\" is printed" has_printed "${#expected[@]}"
+    fi
+    drain
+    [[ ${choices[*]} == "${expected[*]}" ]] \
+        || fail "expected ${1:-no choice}, the host printed: ${choices[*]:${#expected[@]} - $#}"
+    take_picture "$pictures/$step_name.png"
+    printf '%-32s %s\n' "$step_name" "${1:-}"
+}
+
+fail() {
+    printf 'demo: step %s: %s\n' "$step_name" "$*" >&2
+    import -silent -window root "$pictures/$step_name-failed.png" || true
+    [[ ! -s $work/host.log ]] || sed 's/^/host: /' "$work/host.log" >&2
+    exit 1
+}
+
+# wait_until DESCRIPTION COMMAND...: polls the command until it succeeds.
+wait_until() {
+    local description=$1 deadline=$((SECONDS + patience))
+    shift
+    until "$@"; do
+        ((SECONDS < deadline)) || fail "it never came about that $description"
+        sleep 0.05
+    done
+}
+
+# --- The screen --------------------------------------------------------------------------------
+
+# start_driver HOST PICTURES: makes the virtual screen with a window manager.
+start_driver() {
+    host_program=$1
+    pictures=$2
+    work=$(mktemp -d)
+    trap stop_driver EXIT
+    trap '' PIPE # a host that is gone is found out by writing to it
+    mkdir -p "$pictures"
+    rm -f "$pictures"/*.png
+    unset QT_QPA_PLATFORM QT_SCALE_FACTOR QT_STYLE_OVERRIDE XAUTHORITY
+    export LC_ALL=C.UTF-8
+    export XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
+
+    local server number
+    exec {server}< <(exec Xvfb -displayfd 1 -screen 0 "${screen_width}x${screen_height}x24" \
+        -nolisten tcp -noreset 2>"$work/server.log")
+    helpers+=($!)
+    read -r -t "$patience" number <&"$server" || fail "the virtual screen does not start"
+    export DISPLAY=:$number
+    openbox --sm-disable >"$work/openbox.log" 2>&1 &
+    helpers+=($!)
+    wait_until "the window manager runs" has_window_manager
+    say "Virtual screen $DISPLAY"
+}
+
+has_window_manager() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# shellcheck disable=SC2317 # called by the trap
+stop_driver() {
+    local pid
+    [[ -z $host_pid ]] || kill "$host_pid" 2>/dev/null || true
+    for pid in "${helpers[@]}"; do
+        kill "$pid" 2>/dev/null || true
+    done
+    wait
+    rm -rf "$work"
+}
+
+# start_other_window: a window of another application, in the lower right corner.
+start_other_window() {
+    xev -geometry 200x200+1040+560 >/dev/null 2>&1 &
+    helpers+=($!)
+    wait_until "the other window is shown" has_other_window
+}
+
+has_other_window() {
+    xdotool search --onlyvisible --name 'Event Tester' >/dev/null 2>&1
+}
+
+# take_picture FILE: of the whole screen, once it stands still.
+take_picture() {
+    wait_until "the screen stands still" stands_still
+    mv "$work/now.png" "$1"
+}
+
+stands_still() {
+    import -silent -window root "$work/before.png"
+    import -silent -window root "$work/now.png"
+    [[ $(identify -format '%#' "$work/before.png") == $(identify -format '%#' "$work/now.png") ]]
+}
+
+# colours X Y WIDTH HEIGHT: how many different ones this part of the screen has.
+colours() {
+    import -silent -window root -crop "$3x$4+$1+$2" +repage "$work/part.png"
+    identify -format '%k' "$work/part.png"
+}
+
+# has_colour X Y COLOUR: whether the pixel has the colour, given as 188,188,188.
+has_colour() {
+    import -silent -window root -crop "1x1+$1+$2" +repage -depth 8 "rgb:$work/pixel"
+    [[ $(od -An -tu1 "$work/pixel" | xargs | tr ' ' ,) == "$3" ]]
+}
+
+# --- The host ----------------------------------------------------------------------------------
+
+start_host() {
+    coproc HOST { exec "$host_program" --locator --settings "$work/settings" 2>>"$work/host.log"; }
+    host_pid=${HOST_PID:-}
+    exec {host_out}<&"${HOST[0]}" {host_in}>&"${HOST[1]}"
+    wait_until "the host's window is shown" is_shown host
+}
+
+# Closes the host's window with the window manager's key; the process must end well.
+close_host() {
+    local status=0
+    xdotool key --clearmodifiers alt+F4
+    wait "$host_pid" || status=$?
+    host_pid=
+    ((status == 0)) || fail "the host ended with status $status"
+    exec {host_in}>&- {host_out}<&-
+}
+
+# ask QUESTION PATH: sets answer, and takes note of the choices that were printed before it.
+ask() {
+    local line
+    printf '%s\n' "$*" >&"$host_in" || fail "the host is gone"
+    while read -r -t "$patience" line <&"$host_out"; do
+        if [[ $line == '='* ]]; then
+            answer=${line#= }
+            return
+        fi
+        choices+=("$line")
+    done
+    fail "the host does not answer"
+}
+
+drain() {
+    ask visible host
+}
+
+# --- What there is to see ----------------------------------------------------------------------
+
+has_printed() {
+    drain
+    ((${#choices[@]} >= $1))
+}
+
+is_shown() {
+    ask visible "$1"
+    [[ $answer == yes ]]
+}
+
+is_gone() {
+    ! is_shown "$1"
+}
+
+says() {
+    ask text "$1"
+    [[ $answer == "$2" ]]
+}
+
+# place PATH: sets x, y, width and height of the widget on the screen.
+place() {
+    ask where "$1"
+    [[ $answer != none ]] || fail "there is no $1"
+    read -r x y width height <<<"$answer"
+}
+
+expect_shown() {
+    wait_until "$1 is shown" is_shown "$1"
+}
+
+expect_gone() {
+    wait_until "$1 is gone" is_gone "$1"
+}
+
+# expect_text PATH TEXT
+expect_text() {
+    wait_until "$1 says \"$2\"" says "$1" "$2"
+}
+
+# expect_place PATH X Y WIDTH HEIGHT
+expect_place() {
+    wait_until "$1 is at ${*:2}" is_at "$@"
+}
+
+# expect_width PATH WIDTH
+expect_width() {
+    place "$1"
+    ((width == $2)) || fail "$1 is $width wide, not $2"
+}
+
+# expect_height PATH HEIGHT
+expect_height() {
+    place "$1"
+    ((height == $2)) || fail "$1 is $height high, not $2"
+}
+
+is_at() {
+    ask where "$1"
+    [[ $answer == "${*:2}" ]]
+}
+
+# expect_rows LIST TEXT...: these rows, and no other.
+expect_rows() {
+    local list=$1 row=0 text
+    shift
+    for text in "$@"; do
+        expect_text "$list/$row" "$text"
+        row=$((row + 1))
+    done
+    expect_gone "$list/$row"
+}
+
+# expect_icon PATH: something is painted in the box of this action icon.
+expect_icon() {
+    place "$1"
+    wait_until "the icon of $1 is painted" has_colours "$x" "$y" "$width" "$height"
+}
+
+has_colours() {
+    (($(colours "$@") > 4))
+}
+
+# expect_popup_beside X Y WIDTH HEIGHT: where the popup opens for such a control. In the left half of
+# the screen it begins at the control's left edge, in the right half it ends left of the control.
+expect_popup_beside() {
+    local left=$1 top=$2 bottom=$(($2 + $4 - 1)) popup_x popup_y
+    if ((2 * left <= screen_width)); then
+        popup_x=$((left + 800 > screen_width - 1 ? screen_width - 1 - 800 : left))
+    else
+        popup_x=$((left - $3 - 800 < 0 ? 0 : left - $3 - 800))
+    fi
+    if ((2 * bottom > screen_height)); then
+        popup_y=$((top - 600 < 0 ? 0 : top - 600))
+    else
+        popup_y=$((bottom + 600 >= screen_height ? screen_height - 600 : top - 1))
+    fi
+    expect_place popup "$popup_x" "$popup_y" 800 600
+}
+
+# --- Mouse and keys ----------------------------------------------------------------------------
+
+# hover PATH
+hover() {
+    expect_shown "$1"
+    place "$1"
+    xdotool mousemove $((x + width / 2)) $((y + height / 2))
+}
+
+# click PATH
+click() {
+    hover "$1"
+    xdotool click 1
+}
+
+# click_row LIST TEXT: at the left end of the row, away from its action icon.
+click_row() {
+    find_row "$@"
+    place "$row_path"
+    xdotool mousemove $((x + 20)) $((y + height / 2)) click 1
+}
+
+# find_row LIST TEXT: sets row_path and action_path of the row of that text.
+find_row() {
+    wait_until "$1 has the row \"$2\"" has_row "$@"
+}
+
+has_row() {
+    local row=0
+    answer=
+    while [[ $answer != none ]]; do
+        row_path=$1/$row
+        action_path=${1/row/action}/$row
+        ask text "$row_path"
+        [[ $answer != "$2" ]] || return 0
+        row=$((row + 1))
+    done
+    return 1
+}
+
+# type_text TEXT
+type_text() {
+    xdotool type --delay 15 -- "$1"
+}
+
+press() {
+    xdotool key --clearmodifiers "$@"
+}
+
+# choose_in_combo PATH TEXT: by typing the text into the open list of the combo box.
+choose_in_combo() {
+    click "$1"
+    type_text "$2"
+    press Return
+    expect_text "$1" "$2"
+}
