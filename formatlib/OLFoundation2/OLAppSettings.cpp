@@ -28,6 +28,20 @@ QString NonEmpty(const QString &name, const char *otherwise)
     return name.isEmpty() ? QString::fromLatin1(otherwise) : name;
 }
 
+// The one spelling of a key that QSettings knows: without empty parts between its slashes.
+std::string NormalKey(const std::string &key)
+{
+    std::string normal;
+    for (const char c : key) {
+        const bool emptyPart = c == '/' && (normal.empty() || normal.back() == '/');
+        if (!emptyPart)
+            normal += c;
+    }
+    if (normal.ends_with('/'))
+        normal.pop_back();
+    return normal;
+}
+
 bool CopyIfThere(const QString &path, const QString &copy)
 {
     const QFileInfo info(path);
@@ -81,12 +95,14 @@ OLAppSettings::OLAppSettings()
 
 void OLAppSettings::SetValue(std::string value, std::string key)
 {
-    if (key.find_first_not_of('/') != std::string::npos)
+    key = NormalKey(key);
+    if (!key.empty())
         m_unsaved.insert_or_assign(std::move(key), std::move(value));
 }
 
 std::string OLAppSettings::Value(std::string key) const
 {
+    key = NormalKey(key);
     if (const auto unsaved = m_unsaved.find(key); unsaved != m_unsaved.end())
         return unsaved->second;
     if (key.empty())
@@ -115,17 +131,19 @@ void OLAppSettings::Save()
 // one that failed to write would pass its values on to the next.
 std::string OLAppSettings::Write(const QString &path) const
 {
-    const QFileInfo info(path);
-    if (!QDir().mkpath(info.path()))
+    const QString folder = QFileInfo(path).path();
+    if (!QDir().mkpath(folder))
         return "the folder cannot be made";
-    if (info.exists() && !info.isWritable())
-        return "the file is read-only";
     QLockFile lock(path + QStringLiteral(".lock"));
     if (!lock.tryLock(longestWaitForLock)) {
         return lock.error() == QLockFile::LockFailedError ? "another program is writing it"
                                                           : "the folder cannot be written to";
     }
-    const QString target = info.exists() ? info.canonicalFilePath() : path;
+    const QFileInfo info(path);
+    if (info.exists() && !info.isWritable())
+        return "the file is read-only";
+    const QString existing = info.canonicalFilePath(); // empty where there is none
+    const QString target = existing.isEmpty() ? path : existing;
     const QTemporaryDir staging(QFileInfo(target).path() + QStringLiteral("/.settings-XXXXXX"));
     if (!staging.isValid())
         return staging.errorString().toStdString();
@@ -134,8 +152,8 @@ std::string OLAppSettings::Write(const QString &path) const
     if (!CopyIfThere(target, copy))
         return "the present file cannot be copied";
     // QSettings takes a file for written that a full disk has cut short, so there must be room for
-    // it beforehand: a text takes up to three times its length in the file.
-    if (!HasRoom(staging, 3 * (QFileInfo(target).size() + UnsavedSize()) + 4096))
+    // it beforehand: a text takes up to four times its length in the file.
+    if (!HasRoom(staging, 4 * (QFileInfo(target).size() + UnsavedSize()) + 4096))
         return "there is no room for it";
     if (!WriteValues(copy, written))
         return "it cannot be written whole";

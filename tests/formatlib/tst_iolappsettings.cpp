@@ -157,6 +157,16 @@ private Q_SLOTS:
         QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QStringLiteral("ours"));
     }
 
+    void aKeyHasOneSpellingWhateverItsSlashes()
+    {
+        IOLAppSettings::Shared()->SetValue("first", "a//b");
+        QCOMPARE(IOLAppSettings::Shared()->Value("/a/b/"), std::string("first"));
+        IOLAppSettings::Shared()->SetValue("second", "/a/b/");
+        QCOMPARE(IOLAppSettings::Shared()->Value("a/b"), std::string("second"));
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(IOLAppSettings::Shared()->Value("a/b"), std::string("second"));
+    }
+
     void aKeyOfSlashesIsIgnored()
     {
         IOLAppSettings::Shared()->SetValue("value", "//");

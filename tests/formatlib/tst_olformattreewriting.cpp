@@ -124,6 +124,16 @@ private Q_SLOTS:
         QVERIFY(back->IsEqual(node));
     }
 
+    void ofAMemberThatStandsTwiceTheLastCounts()
+    {
+        const auto json = Orlimo::IOLJsonReader::ReadJsonString(
+                R"({"version": 1, "root": {"name": "first", "name": "second"}})", nullptr);
+        const NodePointer node = IOLFormatNode::MallocFormatNode(
+                std::shared_ptr<const Orlimo::IOLJsonValue>(json));
+        QVERIFY(node);
+        QCOMPARE(node->Name(), std::string("second"));
+    }
+
     void anEmptyNodeComesBack()
     {
         const NodePointer node = IOLFormatNode::MallocFormatNode(NodePointer());
