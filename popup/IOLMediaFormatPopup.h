@@ -53,7 +53,7 @@ public:
     /// Starts loading the engine's format description at @p path (UTF-8) in the background and
     /// returns at once. The categories appear in the popup when they are there, open or not. A
     /// description that cannot be read is logged and gives no categories; a later call may then
-    /// load another one. Once there are categories, a later call renews the icons only.
+    /// load another one. Once the popup has categories, a later call renews the icons only.
     ///
     /// Every call must be followed by WaitForFormatDataLoadingComplete() before the next one and
     /// before the library is unloaded; otherwise the process is terminated. Throws

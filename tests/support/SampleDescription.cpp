@@ -101,6 +101,13 @@ std::string SampleDescription::Path() const
     return m_folder.filePath(QStringLiteral("formats.json")).toStdString();
 }
 
+void SampleDescription::Load() const
+{
+    const auto dataSource = IOLFmtPresetDataSource::Shared();
+    dataSource->AsyncLoadExternalDataSource(Path(), [] {});
+    dataSource->WaitForLoadingComplete();
+}
+
 QColor SampleDescription::ColorOf(int faceID)
 {
     return QColor::fromHsv(faceID * 37 % 360, 255, 200);

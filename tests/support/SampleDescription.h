@@ -27,6 +27,7 @@ public:
     SampleDescription();
 
     std::string Path() const; // of the description, UTF-8
+    void Load() const;        // into the process's data source
     static QColor ColorOf(int faceID);
 
     // A tree of the same content that was never in a file.

@@ -101,10 +101,8 @@ class tst_RPFmtSelectionDlg_Categories : public Test::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        const auto dataSource = IOLFmtPresetDataSource::Shared();
-        dataSource->AsyncLoadExternalDataSource(description.Path(), [] {});
-        dataSource->WaitForLoadingComplete();
-        QVERIFY(dataSource->GetDefaultFormatNode());
+        description.Load();
+        QVERIFY(IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode());
     }
 
     void categoriesStandBetweenRecentAndCustomInTheTreesOrder()
