@@ -128,7 +128,6 @@ int runScenario(const QString &name, const QString &path, int delay)
     } else {
         scenarios().at(name)(scenario);
     }
-    QCoreApplication::processEvents();
     const QStringList tabs = PopupDriver(PopupDriver::FindPopup()).TabTexts();
     std::printf("%s", qPrintable(tabs.join(u'|')));
     return 0;

@@ -9,6 +9,7 @@
 
 #include <QDialog>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTimer>
 #include <QWheelEvent>
@@ -227,6 +228,22 @@ private Q_SLOTS:
         QVERIFY(scene.popup.isVisible());
     }
 
+    void popupOpenedAgainOnACloseRequestStaysOpen()
+    {
+        Scene scene;
+        int reopened = 0;
+        scene.popup.ShowPopup(
+                [&](auto, auto) {
+                    ++reopened;
+                    scene.popup.ShowPopup(scene.counter(), anchor);
+                },
+                anchor);
+        scene.popup.windowHandle()->close();
+        QCOMPARE(reopened, 1);
+        QVERIFY(scene.popup.isVisible());
+        QCOMPARE(scene.closings, 0);
+    }
+
     void hiddenPopupReportsNothing()
     {
         Scene scene;
@@ -330,8 +347,11 @@ private Q_SLOTS:
     {
         Scene scene;
         const QPoint place = scene.popup.pos();
+        const QSignalSpy moves(scene.popup.windowHandle(), &QWindow::xChanged);
         scene.popup.windowHandle()->setPosition(place + QPoint(30, 40));
-        QTRY_COMPARE(scene.popup.pos(), place);
+        QTRY_COMPARE(moves.count(), 2);
+        QCOMPARE(moves.first().first().toInt(), place.x() + 30);
+        QCOMPARE(scene.popup.pos(), place);
     }
 
     void minimizedPopupIsRestoredWhenItOpens()
