@@ -3,6 +3,7 @@
 
 #include "IOLAppSettings.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -253,6 +254,36 @@ private Q_SLOTS:
 
         IOLAppSettings::Shared()->Save();
         QCOMPARE(Content(FilePath()), "[General]\nkey=" + value + '\n');
+    }
+
+    void aFileCutExactlyBehindALineIsNotTakenForWhole()
+    {
+        const std::string value(50'000, 'x');
+        IOLAppSettings::Shared()->SetValue("kept", "z");
+        IOLAppSettings::Shared()->Save();
+        IOLAppSettings::Shared()->SetValue(value, "a");
+        {
+            const QByteArray firstLines = QByteArray(
+                    "[General]\na=" + QByteArray::fromStdString(value) + '\n');
+            const FullDisk fullDisk(static_cast<rlim_t>(firstLines.size()));
+            ExpectFailedSave();
+        }
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nz=kept\n"));
+    }
+
+    void everySaveMakesTheFileNewer()
+    {
+        IOLAppSettings::Shared()->SetValue("first", "key");
+        IOLAppSettings::Shared()->Save();
+        QFile file(FilePath());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QDateTime ahead = QDateTime::currentDateTime().addSecs(3600);
+        QVERIFY(file.setFileTime(ahead, QFileDevice::FileModificationTime));
+        file.close();
+        IOLAppSettings::Shared()->SetValue("other", "key");
+        IOLAppSettings::Shared()->Save();
+        QVERIFY(QFileInfo(FilePath()).lastModified() > ahead);
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string("other"));
     }
 
     void cleanup()
