@@ -1,69 +1,29 @@
-#include "TestCase.h"
+#include "NodePageTest.h"
 
-#include "RPFmtItemDataWdg.h"
-#include "RPFmtNodeWdg.h"
-#include "RowClicks.h"
-#include "TreeBuilder.h"
-
-#include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
 
 using namespace Orlimo;
 using Test::MakeCategory;
 using Test::MakeFormat;
+using Test::RowAt;
 using Test::RowTitles;
+using Test::Show;
 
 namespace {
 
 using namespace Qt::StringLiterals;
-
-RPFmtItemDataWdg *RowAt(const QListWidget *list, int index)
-{
-    return qobject_cast<RPFmtItemDataWdg *>(list->itemWidget(list->item(index)));
-}
 
 QImage ImageOf(const QIcon &icon)
 {
     return icon.pixmap(64, 64).toImage();
 }
 
-bool Show(RPFmtNodeWdg &page)
-{
-    page.setGeometry(50, 50, 700, 400);
-    page.show();
-    return QTest::qWaitForWindowExposed(&page);
-}
-
 } // namespace
 
 // What the two lists show of a node and of a selected child.
-class tst_RPFmtNodeWdg : public Test::TestCase
+class tst_RPFmtNodeWdg : public Test::NodePageTest
 {
     Q_OBJECT
-
-private:
-    std::shared_ptr<IOLFormatNode> video;
-
-    void prepare() override
-    {
-        video = MakeCategory("Video",
-                             { MakeFormat("MP4", { "HD 1080P", "SD 480P", "mobile" }),
-                               MakeFormat("AVI", { "DivX", "Xvid" }),
-                               MakeFormat("MKV", { "HD 720P" }) });
-    }
-
-    static void compareLists(const RPFmtNodeWdg &page, const QStringList &nodes,
-                             const QStringList &presets)
-    {
-        QCOMPARE(RowTitles(*page.NodeList()), nodes);
-        QCOMPARE(RowTitles(*page.FormatList()), presets);
-    }
-
-    static void compareCurrentRows(const RPFmtNodeWdg &page, int node, int preset)
-    {
-        QCOMPARE(page.NodeList()->currentRow(), node);
-        QCOMPARE(page.FormatList()->currentRow(), preset);
-    }
 
 private Q_SLOTS:
     void aNodeShowsItsChildrenAndThePresetsOfTheFirst()

@@ -1,11 +1,5 @@
-#include "TestCase.h"
+#include "NodePageTest.h"
 
-#include "RPFmtItemDataWdg.h"
-#include "RPFmtNodeWdg.h"
-#include "RowClicks.h"
-#include "TreeBuilder.h"
-
-#include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
 
 #include <QPointer>
@@ -13,55 +7,22 @@
 using namespace Orlimo;
 using Test::MakeCategory;
 using Test::MakeFormat;
+using Test::RowAt;
 using Test::RowTitles;
+using Test::Show;
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
-RPFmtItemDataWdg *RowAt(const QListWidget *list, int index)
-{
-    return qobject_cast<RPFmtItemDataWdg *>(list->itemWidget(list->item(index)));
-}
-
-bool Show(RPFmtNodeWdg &page)
-{
-    page.setGeometry(50, 50, 700, 400);
-    page.show();
-    return QTest::qWaitForWindowExposed(&page);
-}
-
 } // namespace
 
 // What the two lists show of a search.
-class tst_RPFmtNodeWdg_Search : public Test::TestCase
+class tst_RPFmtNodeWdg_Search : public Test::NodePageTest
 {
     Q_OBJECT
 
 private:
-    std::shared_ptr<IOLFormatNode> video;
-
-    void prepare() override
-    {
-        video = MakeCategory("Video",
-                             { MakeFormat("MP4", { "HD 1080P", "SD 480P", "mobile" }),
-                               MakeFormat("AVI", { "DivX", "Xvid" }),
-                               MakeFormat("MKV", { "HD 720P" }) });
-    }
-
-    static void compareLists(const RPFmtNodeWdg &page, const QStringList &nodes,
-                             const QStringList &presets)
-    {
-        QCOMPARE(RowTitles(*page.NodeList()), nodes);
-        QCOMPARE(RowTitles(*page.FormatList()), presets);
-    }
-
-    static void compareCurrentRows(const RPFmtNodeWdg &page, int node, int preset)
-    {
-        QCOMPARE(page.NodeList()->currentRow(), node);
-        QCOMPARE(page.FormatList()->currentRow(), preset);
-    }
-
     void compareWithTheWholeNode(const RPFmtNodeWdg &page)
     {
         compareLists(page, { u"MP4"_s, u"AVI"_s, u"MKV"_s },
