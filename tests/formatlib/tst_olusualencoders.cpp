@@ -225,7 +225,7 @@ private:
     {
         for (int i = 0; i < codec.ResolutionCount(); ++i) {
             const auto resolution = codec.ResolutionAt(i);
-            const std::string size = std::to_string(resolution->width) + " x "
+            const std::string size = std::to_string(resolution->width) + "x"
                     + std::to_string(resolution->height);
             QCOMPARE(resolution->text, resolution->width == 0 ? "Same as source" : size);
         }
