@@ -8,6 +8,35 @@
 
 namespace Orlimo {
 
+namespace {
+
+// The texts that assistive technology reads are those of the row at the time it asks, so they
+// follow a change of language as the painted ones do.
+class RowItem final : public QListWidgetItem
+{
+public:
+    using QListWidgetItem::QListWidgetItem;
+
+    QVariant data(int role) const override
+    {
+        if (role == Qt::AccessibleTextRole)
+            return Row() ? Row()->Title() : QString();
+        if (role == Qt::AccessibleDescriptionRole)
+            return Row() ? Row()->Description() : QString();
+        return QListWidgetItem::data(role);
+    }
+
+private:
+    const RPFmtItemDataWdg *Row() const
+    {
+        auto *item = const_cast<RowItem *>(this); // which itemWidget() only looks up
+        return listWidget() ? qobject_cast<RPFmtItemDataWdg *>(listWidget()->itemWidget(item))
+                            : nullptr;
+    }
+};
+
+} // namespace
+
 void SetUpRowList(QListWidget &list)
 {
     list.setSelectionMode(QAbstractItemView::SingleSelection);
@@ -19,17 +48,14 @@ void FillRows(QListWidget &list, int count,
               const std::function<void(RPFmtItemDataWdg &row, int index)> &setUpRow)
 {
     for (int i = 0; i < count; ++i) {
-        auto *item = new QListWidgetItem(&list);
+        auto *item = new RowItem(&list);
         item->setSizeHint(QSize(0, OLRowHeight));
     }
     for (int i = 0; i < count; ++i) {
         auto *row = new RPFmtItemDataWdg(&list);
         row->setMouseTracking(true);
         setUpRow(*row, i);
-        QListWidgetItem *item = list.item(i);
-        item->setData(Qt::AccessibleTextRole, row->Title());
-        item->setData(Qt::AccessibleDescriptionRole, row->Description());
-        list.setItemWidget(item, row);
+        list.setItemWidget(list.item(i), row);
     }
 }
 

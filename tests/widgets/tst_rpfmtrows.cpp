@@ -1,3 +1,4 @@
+#include "CatalogueBuilder.h"
 #include "TestCase.h"
 
 #include "RPFmtItemDataWdg.h"
@@ -96,6 +97,28 @@ private Q_SLOTS:
         QCOMPARE(list.item(1)->data(Qt::AccessibleTextRole), QVariant(u"HD 720P"_s));
         QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole), QVariant(u"H.264"_s));
         QCOMPARE(list.item(0)->text(), QString());
+    }
+
+    void theAccessibleTextsFollowALaterChangeOfLanguage()
+    {
+        QListWidget list;
+        FillRows(list, 1, [](RPFmtItemDataWdg &row, int) {
+            row.preset = Test::MakePreset("Best", "High Quality");
+        });
+        const Test::InstalledCatalogue catalogue(
+                { { "RPObject", "Best", u"Beste"_s }, { "RPObject", "High Quality", u"Hoch"_s } });
+        QCOMPARE(list.item(0)->data(Qt::AccessibleTextRole), QVariant(u"Beste"_s));
+        QCOMPARE(list.item(0)->data(Qt::AccessibleDescriptionRole), QVariant(u"Hoch"_s));
+    }
+
+    void anItemThatIsTakenOutHasNoAccessibleTexts()
+    {
+        QListWidget list;
+        FillRows(list, 1,
+                 [](RPFmtItemDataWdg &row, int) { row.preset = Test::MakePreset("Best", "AAC"); });
+        const std::unique_ptr<QListWidgetItem> item(list.takeItem(0));
+        QCOMPARE(item->data(Qt::AccessibleTextRole).toString(), QString());
+        QCOMPARE(item->data(Qt::AccessibleDescriptionRole).toString(), QString());
     }
 };
 
