@@ -17,6 +17,11 @@ namespace Orlimo {
 
 namespace {
 
+QString Text(const char *source)
+{
+    return OrSourceText(RPFmtEditingDlg::tr(source), source);
+}
+
 bool IsCustomNameInUse(const std::string &name)
 {
     const auto dataSource = IOLFmtPresetDataSource::Shared();
@@ -53,7 +58,7 @@ bool RPFmtEditingDlg::EditPreset(std::shared_ptr<IOLFormatPreset> preset,
 RPFmtEditingDlg::RPFmtEditingDlg()
 {
     ui.setupUi(this);
-    setWindowTitle(tr("Settings"));
+    setWindowTitle(Text(QT_TR_NOOP("Settings")));
     setFixedSize(540, 320);
     setAttribute(Qt::WA_QuitOnClose, false);
     ui.btnSave->setDefault(true);
@@ -129,9 +134,9 @@ void RPFmtEditingDlg::SetUp(std::shared_ptr<IOLFormatPreset> preset,
 QString RPFmtEditingDlg::ComposedTitle() const
 {
     if (!targetPreset)
-        return tr("Settings");
+        return Text(QT_TR_NOOP("Settings"));
     const std::string presetName = targetPreset->Name();
-    QString title = tr("Settings") + QStringLiteral(" - ");
+    QString title = Text(QT_TR_NOOP("Settings")) + QStringLiteral(" - ");
     if (formatNode && !NamesFormat(presetName, NodeName()))
         title += TranslateFormatText(NodeName()) + u' ';
     return title + TranslateFormatText(presetName);
@@ -243,8 +248,9 @@ void RPFmtEditingDlg::SaveAsNewPreset()
         return;
     const std::string proposal = ProposeCustomName(workingPreset->Name(), NodeName(),
                                                    IsCustomNameInUse);
-    const QString name = QInputDialog::getText(this, tr("Save as New Preset"), tr("preset name"),
-                                               QLineEdit::Normal, QString::fromStdString(proposal));
+    const QString name = QInputDialog::getText(this, Text(QT_TR_NOOP("Save as New Preset")),
+                                               Text(QT_TR_NOOP("preset name")), QLineEdit::Normal,
+                                               QString::fromStdString(proposal));
     if (name.isEmpty())
         return;
     const auto preset = workingPreset->Clone();

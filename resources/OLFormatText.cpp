@@ -4,6 +4,11 @@
 
 namespace Orlimo {
 
+QString OrSourceText(const QString &translation, const char *source)
+{
+    return translation.isEmpty() ? QString::fromUtf8(source) : translation;
+}
+
 // Catalogues hold these messages without a comment; the text as its own disambiguation is looked up
 // first, then the text alone.
 QString TranslateFormatText(const std::string &text)
@@ -11,7 +16,12 @@ QString TranslateFormatText(const std::string &text)
     if (text.empty())
         return {};
     const QString translation = QCoreApplication::translate("RPObject", text.c_str(), text.c_str());
-    return translation.isEmpty() ? QString::fromStdString(text) : translation;
+    return OrSourceText(translation, text.c_str());
+}
+
+QString TranslateEditingForm(const char *text, const char *comment)
+{
+    return OrSourceText(QCoreApplication::translate("RPFmtEditingDlgClass", text, comment), text);
 }
 
 } // namespace Orlimo

@@ -38,6 +38,11 @@ constexpr QSize recentIconSize { 15, 15 };
 constexpr int recentTab = 0;
 constexpr int mostCorrections = 3;
 
+QString Text(const char *source)
+{
+    return OrSourceText(RPFmtSelectionDlg::tr(source), source);
+}
+
 } // namespace
 
 RPFmtSelectionDlg::RPFmtSelectionDlg()
@@ -67,7 +72,7 @@ void RPFmtSelectionDlg::InitRecentFmtList()
     page->RefreshRecentList();
     const QIcon icon = ArtworkIcon(IOLArtworkImageMgr::CategoryFaceIDRecentList);
     const QIcon reduced(icon.pixmap(recentIconSize, QIcon::Normal, QIcon::Off));
-    ui.tabWidget->addTab(page, reduced, tr("Recent"));
+    ui.tabWidget->addTab(page, reduced, Text(QT_TR_NOOP("Recent")));
     page->installEventFilter(this);
     page->List()->installEventFilter(this);
     page->recentSelected = [this](const std::shared_ptr<IOLFmtPresetRecentItem> &item) {
@@ -80,7 +85,7 @@ void RPFmtSelectionDlg::InitCustomFmtNode()
     const auto root = IOLFmtPresetDataSource::Shared()->GetCustomFormatNode();
     RPFmtNodeWdg *page = CreateNodeWdg(root, true);
     ui.tabWidget->addTab(page, ArtworkIcon(IOLArtworkImageMgr::CategoryFaceIDCustomize),
-                         tr("Custom"));
+                         Text(QT_TR_NOOP("Custom")));
     WatchFocus(page);
     ReportSelectionsOf(page);
 }
@@ -120,7 +125,7 @@ void RPFmtSelectionDlg::InitSearchEdit()
                                             QLineEdit::LeadingPosition);
     connect(searchEdit, &QLineEdit::textChanged, this, &RPFmtSelectionDlg::SearchTextChanged);
     connect(search, &QAction::triggered, this, [this] { SearchTextChanged(searchEdit->text()); });
-    searchEdit->setPlaceholderText(tr("Search..."));
+    searchEdit->setPlaceholderText(Text(QT_TR_NOOP("Search...")));
     PlaceSearchEdit();
     searchEdit->installEventFilter(this);
 }

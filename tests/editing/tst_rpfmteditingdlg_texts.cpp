@@ -154,29 +154,7 @@ private Q_SLOTS:
         QCOMPARE(spy.titles.value(0), QStringLiteral("Settings - HD HD"));
     }
 
-    void aChangeOfLanguageShowsAtTheNextOpening_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("text");
-        const auto add = [](const char *name, const char *text) {
-            QTest::newRow(name) << QString::fromLatin1(name) << QByteArray(text);
-        };
-        add("grpVideo", "Video");
-        add("lblVEncoder", "Encoder");
-        add("lblResolution", "Resolution");
-        add("lblFrameRate", "Frame Rate");
-        add("lblVQuality", "Quality");
-        add("grpAudio", "Audio");
-        add("lblAEncoder", "Encoder");
-        add("lblChannel", "Channel");
-        add("lblSampleRate", "Sample Rate");
-        add("lblAQuality", "Quality");
-        add("btnDefault", "Reset");
-        add("btnSaveNewPreset", "Save as New Preset");
-        add("btnCancel", "Cancel");
-        add("btnSave", "Save");
-        add("RPFmtEditingDlgClass", "Settings");
-    }
+    void aChangeOfLanguageShowsAtTheNextOpening_data() { addFormTexts(); }
 
     void aChangeOfLanguageShowsAtTheNextOpening()
     {
@@ -188,6 +166,25 @@ private Q_SLOTS:
             QCOMPARE(shownText(name), translation);
         }
         QCOMPARE(shownText(name), QString::fromLatin1(text));
+    }
+
+    void aFormTextWithAnEmptyTranslationStaysInEnglish_data() { addFormTexts(); }
+
+    void aFormTextWithAnEmptyTranslationStaysInEnglish()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, text);
+        const MapTranslator catalogue({ { { formContext, text, "" }, QStringLiteral("") } });
+        QCOMPARE(shownText(name), QString::fromLatin1(text));
+    }
+
+    void aTitleWithAnEmptyTranslationStaysInEnglish()
+    {
+        const MapTranslator catalogue(
+                { { { dialogContext, "Settings", "" }, QStringLiteral("") } });
+        const TitleSpy spy;
+        Edit(MakeSamplePreset("HD"), MakeSampleFormat(), Cancel);
+        QCOMPARE(spy.titles.value(0), QStringLiteral("Settings - MP4 HD"));
     }
 
     void entriesAreTranslatedWithThemselvesAsTheComment_data()
@@ -226,18 +223,60 @@ private Q_SLOTS:
         const MapTranslator catalogue(
                 { { { dialogContext, "Save as New Preset", "" }, QStringLiteral("Nouveau") },
                   { { dialogContext, "preset name", "" }, QStringLiteral("nom") } });
-        Edit(MakeSamplePreset("HD"), MakeSampleFormat(), [](const EditingDriver &user) {
-            const WhenOpen<QInputDialog> prompt([](QInputDialog &dialog) {
-                QCOMPARE(dialog.windowTitle(), QStringLiteral("Nouveau"));
-                QCOMPARE(dialog.labelText(), QStringLiteral("nom"));
+        const QStringList expected { QStringLiteral("Nouveau"), QStringLiteral("nom") };
+        QCOMPARE(promptTexts(), expected);
+    }
+
+    void aPromptWithEmptyTranslationsStaysInEnglish()
+    {
+        const MapTranslator catalogue(
+                { { { dialogContext, "Save as New Preset", "" }, QStringLiteral("") },
+                  { { dialogContext, "preset name", "" }, QStringLiteral("") } });
+        const QStringList expected { QStringLiteral("Save as New Preset"),
+                                     QStringLiteral("preset name") };
+        QCOMPARE(promptTexts(), expected);
+    }
+
+private:
+    static void addFormTexts()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("text");
+        const auto add = [](const char *name, const char *text) {
+            QTest::newRow(name) << QString::fromLatin1(name) << QByteArray(text);
+        };
+        add("grpVideo", "Video");
+        add("lblVEncoder", "Encoder");
+        add("lblResolution", "Resolution");
+        add("lblFrameRate", "Frame Rate");
+        add("lblVQuality", "Quality");
+        add("grpAudio", "Audio");
+        add("lblAEncoder", "Encoder");
+        add("lblChannel", "Channel");
+        add("lblSampleRate", "Sample Rate");
+        add("lblAQuality", "Quality");
+        add("btnDefault", "Reset");
+        add("btnSaveNewPreset", "Save as New Preset");
+        add("btnCancel", "Cancel");
+        add("btnSave", "Save");
+        add("RPFmtEditingDlgClass", "Settings");
+    }
+
+    // Title and label of the prompt for the name of a new preset.
+    static QStringList promptTexts()
+    {
+        QStringList texts;
+        Edit(MakeSamplePreset("HD"), MakeSampleFormat(), [&texts](const EditingDriver &user) {
+            const WhenOpen<QInputDialog> prompt([&texts](QInputDialog &dialog) {
+                texts = QStringList { dialog.windowTitle(), dialog.labelText() };
                 QTest::keyClick(&dialog, Qt::Key_Escape);
             });
             user.Click(QStringLiteral("btnSaveNewPreset"));
             Cancel(user);
         });
+        return texts;
     }
 
-private:
     static QString shownText(const QString &name)
     {
         QString text;

@@ -119,6 +119,18 @@ private Q_SLOTS:
         QCOMPARE(driver.SearchBox()->placeholderText(), u"Suchen ..."_s);
     }
 
+    void ownTextsWithEmptyTranslationsStayInEnglish()
+    {
+        const char *context = "Orlimo::RPFmtSelectionDlg";
+        const Test::MapTranslator translator({ { { context, "Recent", "" }, u""_s },
+                                               { { context, "Custom", "" }, u""_s },
+                                               { { context, "Search...", "" }, u""_s } });
+        RPFmtSelectionDlg popup;
+        const Test::PopupDriver driver(&popup);
+        QCOMPARE(driver.TabTexts(), QStringList({ u"Recent"_s, u"Custom"_s }));
+        QCOMPARE(driver.SearchBox()->placeholderText(), u"Search..."_s);
+    }
+
     void withoutRecentChoicesThePopupOpensOnTheTabAfterRecent()
     {
         RPFmtSelectionDlg popup;

@@ -154,6 +154,17 @@ private Q_SLOTS:
         QCOMPARE(open.driver.TabTexts().at(2), u"Ton"_s);
     }
 
+    // What the popup named when it was made keeps its language.
+    void categoriesThatComeAfterAChangeOfLanguageAreNamedInTheNewOne()
+    {
+        OpenPopup open;
+        const Test::MapTranslator translator({ { { "RPObject", "Audio", "Audio" }, u"Ton"_s } });
+        open.popup.OnFormatDataLoaded();
+        QCOMPARE(open.driver.TabTexts(),
+                 QStringList({ u"Recent"_s, u"Video"_s, u"Audio"_s, u"Video"_s, u"Ton"_s,
+                               u"Custom"_s }));
+    }
+
     void newArtworkShowsOnEveryTab()
     {
         OpenPopup open;

@@ -1,10 +1,11 @@
 // Loads the plugin, plays the scenario, unloads the plugin, and prints a line for each step:
 // whether the picker's library is mapped and whether its resources are registered.
 //
-// unloadinghost PLUGIN DESCRIPTION load|unjoined|popup
+// unloadinghost PLUGIN DESCRIPTION load|unjoined|popup|catalogue
 
 #include <QApplication>
 #include <QFile>
+#include <QTranslator>
 #include <QWidget>
 
 #include <csignal>
@@ -31,11 +32,18 @@ bool IsMapped()
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("/libOLMediaFormatPopup.so");
 }
 
+const char *Resources()
+{
+    const bool icons = QFile::exists(u":/OLMediaFormatPopup/search.png"_s);
+    const bool catalogues = QFile::exists(u":/OLMediaFormatPopup/OLLanguage/日本語_format.qm"_s);
+    if (icons != catalogues)
+        return "with some resources";
+    return icons ? "with resources" : "without resources";
+}
+
 void SayState(const char *step)
 {
-    const bool registered = QFile::exists(u":/OLMediaFormatPopup/search.png"_s);
-    std::printf("%s: %s, %s\n", step, IsMapped() ? "mapped" : "not mapped",
-                registered ? "with resources" : "without resources");
+    std::printf("%s: %s, %s\n", step, IsMapped() ? "mapped" : "not mapped", Resources());
     std::fflush(stdout);
 }
 
@@ -80,6 +88,16 @@ void ShowPopup(void *plugin)
     }
 }
 
+// With a catalogue that is read where it lies, in the library.
+void Translate()
+{
+    QTranslator translator;
+    if (!translator.load(u":/OLMediaFormatPopup/OLLanguage/Deutsch_format.qm"_s))
+        Say("no catalogue");
+    QCoreApplication::installTranslator(&translator);
+    Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
+}
+
 int Play(const char *pluginFile, const char *description, const QString &scenario)
 {
     SayState("before");
@@ -95,8 +113,12 @@ int Play(const char *pluginFile, const char *description, const QString &scenari
         Load(plugin, description);
     if (scenario == "popup"_L1)
         ShowPopup(plugin);
+    if (scenario == "catalogue"_L1)
+        Translate();
     dlclose(plugin);
     SayState("unloaded");
+    if (scenario == "catalogue"_L1)
+        Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
     QCoreApplication::processEvents();
     return 0;
 }

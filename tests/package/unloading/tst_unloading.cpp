@@ -11,6 +11,7 @@ class tst_Unloading : public Test::TestCase
 
 private Q_SLOTS:
     void aUsedDataSourceGoesWithTheLibraryAndItsResources();
+    void aCatalogueIsUsedUntilItIsRemovedBeforeTheLibraryGoes();
     void unloadingWithAnUnjoinedLoadTerminatesTheProcess();
     void aPopupKeepsTheLibraryAndItsResourcesToTheEnd();
 
@@ -44,6 +45,19 @@ void tst_Unloading::aUsedDataSourceGoesWithTheLibraryAndItsResources()
              "categories: 4\n"
              "unloaded: not mapped, without resources\n"_s);
     QCOMPARE(m_exitStatus, QProcess::NormalExit);
+    QCOMPARE(m_exitCode, 0);
+}
+
+void tst_Unloading::aCatalogueIsUsedUntilItIsRemovedBeforeTheLibraryGoes()
+{
+    Run(u"catalogue"_s);
+    QCOMPARE(m_output,
+             u"before: not mapped, without resources\n"
+             "loaded: mapped, with resources\n"
+             "categories: 4\n"
+             "Webvideo\n"
+             "unloaded: not mapped, without resources\n"
+             "Web Video\n"_s);
     QCOMPARE(m_exitCode, 0);
 }
 
