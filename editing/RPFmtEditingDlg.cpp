@@ -8,8 +8,10 @@
 #include "RPFmtPresetNaming.h"
 #include "RPWindowOwner.h"
 
+#include <QAbstractItemView>
 #include <QInputDialog>
 #include <QScopedValueRollback>
+#include <QStyle>
 
 #include <utility>
 
@@ -20,6 +22,19 @@ namespace {
 QString Text(const char *source)
 {
     return OrSourceText(RPFmtEditingDlg::tr(source), source);
+}
+
+// The box is narrower than some of its entries; its list is as wide as the widest.
+void WidenList(QComboBox &combo)
+{
+    const int scrollBar = combo.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &combo);
+    combo.view()->setMinimumWidth(combo.view()->sizeHintForColumn(0) + scrollBar);
+}
+
+// A chosen entry that the box cuts can be read in its tool tip.
+void TellWholeText(QComboBox &combo)
+{
+    QObject::connect(&combo, &QComboBox::currentTextChanged, &combo, &QWidget::setToolTip);
 }
 
 bool IsCustomNameInUse(const std::string &name)
@@ -98,9 +113,11 @@ RPFmtEditingDlg::~RPFmtEditingDlg() = default;
 
 void RPFmtEditingDlg::ConnectGroup(const EncoderGroup &group)
 {
+    TellWholeText(*group.encoders);
     connect(group.encoders, &QComboBox::currentIndexChanged, this,
             [this, &group](int index) { ChooseEncoder(group, index); });
     for (const OptionCombo &option : group.options) {
+        TellWholeText(*option.combo);
         connect(option.combo, &QComboBox::currentIndexChanged, this,
                 [this, &group, &option](int index) { ChooseOption(group, option, index); });
     }
@@ -170,6 +187,7 @@ void RPFmtEditingDlg::FillEncoders(const EncoderGroup &group)
     const IOLFormatPreset &preset = *workingPreset;
     for (int i = 0; i < (preset.*group.count)(); ++i)
         group.encoders->addItem(TranslateFormatText((preset.*group.at)(i)->Name()), QVariant());
+    WidenList(*group.encoders);
 
     const int current = (preset.*group.currentIndex)();
     if (current < 0) {
@@ -199,6 +217,7 @@ void RPFmtEditingDlg::FillOption(const OptionCombo &option, const IOLCodecPreset
 {
     for (int i = 0; i < (codec.*option.count)(); ++i)
         option.combo->addItem(TranslateFormatText((codec.*option.text)(i)), QVariant());
+    WidenList(*option.combo);
     const int current = (codec.*option.currentIndex)();
     option.combo->setEnabled(current >= 0);
     if (current >= 0)

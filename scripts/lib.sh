@@ -9,9 +9,10 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # qt6-base-dev brings the libraries that Qt itself needs, and g++ brings binutils.
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools librsvg2-bin)
-test_packages=(binutils fonts-dejavu-core git python3-jsonschema)
+test_packages=(binutils fonts-dejavu-core fonts-ipafont-gothic git python3-jsonschema)
 check_packages=(clang clang-format)
-screen_packages=(fonts-dejavu-core imagemagick openbox x11-utils xdotool xvfb)
+screen_packages=(fonts-dejavu-core fonts-ipafont-gothic imagemagick openbox qt6-translations-l10n
+    x11-utils xdotool xvfb)
 
 say() {
     printf '==> %s\n' "$*"

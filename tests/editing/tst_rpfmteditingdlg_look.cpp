@@ -266,6 +266,55 @@ private Q_SLOTS:
         };
         Edit(MakeSamplePreset("Long"), MakeSampleFormat(), steps);
     }
+
+    // The box cuts such a text; a tool tip and the open list show it whole.
+    void aLongTextCanBeReadInTheToolTip()
+    {
+        Edit(MakeSamplePreset("Long"), MakeSampleFormat(), [](const EditingDriver &user) {
+            for (const QString &name : allCombos)
+                QCOMPARE(user.Combo(name).toolTip(), user.Combo(name).currentText());
+            user.Press(Qt::Key_Escape);
+        });
+        Edit(MakeSamplePreset("Automatic"), MakeSampleFormat(), [](const EditingDriver &user) {
+            QCOMPARE(user.Combo(QStringLiteral("cmbResolution")).toolTip(), QString());
+            user.Press(Qt::Key_Escape);
+        });
+    }
+
+    void theToolTipFollowsTheChoice()
+    {
+        Edit(MakeSamplePreset("HD"), MakeSampleFormat(), [](const EditingDriver &user) {
+            const auto name = QStringLiteral("cmbVEncoder");
+            user.Choose(name, 2);
+            QCOMPARE(user.Combo(name).toolTip(), user.Texts(name).at(2));
+            user.Press(Qt::Key_Escape);
+        });
+    }
+
+    void aLongTextCanBeReadInTheOpenList_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::newRow("a list beside the box") << QStringLiteral("windows");
+        QTest::newRow("a menu over the box") << QStringLiteral("fusion");
+    }
+
+    void aLongTextCanBeReadInTheOpenList()
+    {
+        QFETCH(const QString, style);
+        QApplication::setStyle(style);
+        Edit(MakeSamplePreset("Long"), MakeSampleFormat(), [](const EditingDriver &user) {
+            for (const QString &name : allCombos) {
+                QComboBox &combo = user.Combo(name);
+                combo.showPopup();
+                const QAbstractItemView &list = *combo.view();
+                QTRY_VERIFY(list.isVisible());
+                const QString text = combo.currentText();
+                QVERIFY(list.viewport()->width() >= list.fontMetrics().horizontalAdvance(text));
+                combo.hidePopup();
+            }
+            user.Press(Qt::Key_Escape);
+        });
+    }
 };
 
 ORLIMO_TEST_MAIN(tst_RPFmtEditingDlgLook)
