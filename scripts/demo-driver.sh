@@ -8,9 +8,10 @@ screen_width=1280
 screen_height=800
 patience=20 # seconds
 
-# Set by start_driver: the host to drive, where its output and the pictures go.
+# Set by start_driver: the host to drive, where its output, its settings and the pictures go.
 host_program=
 work=
+settings=
 pictures=
 
 host_pid=
@@ -37,6 +38,15 @@ action_path=
 step() {
     step_number=$((step_number + 1))
     step_name=$(printf '%02d-%s' "$step_number" "$1")
+}
+
+# start_album FOLDER: the pictures of the next steps go there, and the host forgets what it knows.
+start_album() {
+    pictures=$1
+    settings=$work/settings-${1##*/}
+    step_number=0
+    mkdir -p "$pictures"
+    rm -f "$pictures"/*.png
 }
 
 # finish [CHOICE]: ends the step, in which the host must have printed this choice and no other.
@@ -76,11 +86,12 @@ start_driver() {
     host_program=$1
     pictures=$2
     work=$(mktemp -d)
+    settings=$work/settings
     trap stop_driver EXIT
     trap '' PIPE # a host that is gone is found out by writing to it
     mkdir -p "$pictures"
     rm -f "$pictures"/*.png
-    unset QT_QPA_PLATFORM QT_SCALE_FACTOR QT_STYLE_OVERRIDE XAUTHORITY
+    unset LANGUAGE QT_QPA_PLATFORM QT_SCALE_FACTOR QT_STYLE_OVERRIDE XAUTHORITY
     export LC_ALL=C.UTF-8
     export XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 
@@ -148,11 +159,18 @@ has_colour() {
 
 # --- The host ----------------------------------------------------------------------------------
 
+# start_host [LANGUAGE]
 start_host() {
-    coproc HOST { exec "$host_program" --locator --settings "$work/settings" 2>>"$work/host.log"; }
+    local options=(--locator --settings "$settings" ${1:+--language "$1"})
+    coproc HOST { exec "$host_program" "${options[@]}" 2>>"$work/host.log"; }
     host_pid=${HOST_PID:-}
     exec {host_out}<&"${HOST[0]}" {host_in}>&"${HOST[1]}"
     wait_until "the host's window is shown" is_shown host
+    wait_until "the host's window has been given its place" is_active
+}
+
+is_active() {
+    [[ $(xdotool getactivewindow getwindowpid 2>/dev/null) == "$host_pid" ]]
 }
 
 # Closes the host's window with the window manager's key; the process must end well.
@@ -297,6 +315,12 @@ hover() {
 click() {
     hover "$1"
     xdotool click 1
+}
+
+# click_title WINDOW: in the title bar that the window manager gives the window.
+click_title() {
+    place "$1"
+    xdotool mousemove $((x + width / 4)) $((y - 10)) click 1
 }
 
 # click_row LIST TEXT: at the left end of the row, away from its action icon.

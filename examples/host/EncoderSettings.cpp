@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("Host::EncoderSettings", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Host::EncoderSettings)
+};
 
 QString AsSource()
 {
-    return Tr("as the source");
+    return Texts::tr("as the source");
 }
 
 QString Value(const OLResolution &resolution)
@@ -46,12 +46,12 @@ QString Value(const OLQuality &quality)
         return u"%1 bit/s"_s.arg(quality.bitRate);
     if (quality.bitDepth > 0)
         return u"%1 bit"_s.arg(quality.bitDepth);
-    return Tr("left to the encoder");
+    return Texts::tr("left to the encoder");
 }
 
 QString Value(const OLChannel &channel)
 {
-    return channel.channels > 0 ? Tr("%1 channels").arg(channel.channels) : AsSource();
+    return channel.channels > 0 ? QString::number(channel.channels) : AsSource();
 }
 
 QString Value(const OLSampleRate &rate)
@@ -71,27 +71,30 @@ void AppendOption(QList<EncoderSetting> &settings, const QString &name,
 void AppendEncoder(QList<EncoderSetting> &settings, const QString &name,
                    const IOLCodecPreset &encoder)
 {
-    const QString value = encoder.IsAutoValue() ? Tr("automatic")
+    const QString value = encoder.IsAutoValue() ? Texts::tr("automatic")
                                                 : QString::fromStdString(encoder.Name());
     settings.append({ name, FormatText(encoder.Name()), value });
 }
 
 void AppendVideo(QList<EncoderSetting> &settings, const IOLCodecPreset &encoder)
 {
-    AppendEncoder(settings, Tr("Video encoder"), encoder);
-    AppendOption(settings, Tr("Resolution"),
+    AppendEncoder(settings, Texts::tr("Video encoder"), encoder);
+    AppendOption(settings, Texts::tr("Resolution"),
                  encoder.ResolutionAt(encoder.CurrentResolutionIndex()));
-    AppendOption(settings, Tr("Frame rate"), encoder.FrameRateAt(encoder.CurrentFrameRateIndex()));
-    AppendOption(settings, Tr("Video quality"), encoder.QualityAt(encoder.CurrentQualityIndex()));
+    AppendOption(settings, Texts::tr("Frame rate"),
+                 encoder.FrameRateAt(encoder.CurrentFrameRateIndex()));
+    AppendOption(settings, Texts::tr("Video quality"),
+                 encoder.QualityAt(encoder.CurrentQualityIndex()));
 }
 
 void AppendAudio(QList<EncoderSetting> &settings, const IOLCodecPreset &encoder)
 {
-    AppendEncoder(settings, Tr("Audio encoder"), encoder);
-    AppendOption(settings, Tr("Channel"), encoder.ChannelAt(encoder.CurrentChannelIndex()));
-    AppendOption(settings, Tr("Sample rate"),
+    AppendEncoder(settings, Texts::tr("Audio encoder"), encoder);
+    AppendOption(settings, Texts::tr("Channels"), encoder.ChannelAt(encoder.CurrentChannelIndex()));
+    AppendOption(settings, Texts::tr("Sample rate"),
                  encoder.SampleRateAt(encoder.CurrentSampleRateIndex()));
-    AppendOption(settings, Tr("Audio quality"), encoder.QualityAt(encoder.CurrentQualityIndex()));
+    AppendOption(settings, Texts::tr("Audio quality"),
+                 encoder.QualityAt(encoder.CurrentQualityIndex()));
 }
 
 } // namespace

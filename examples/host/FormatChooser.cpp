@@ -43,6 +43,7 @@ FormatChooser::FormatChooser()
 
 void FormatChooser::PickBeside(const QWidget &control)
 {
+    m_hasPicked = true;
     IOLMediaFormatPopup::Shared()->ShowFormatPopup(ScreenRect(control),
                                                    [this](const ConstPreset &preset,
                                                           const ConstNode &node) {
@@ -52,6 +53,7 @@ void FormatChooser::PickBeside(const QWidget &control)
 
 void FormatChooser::PickAt(QPoint screenPosition)
 {
+    m_hasPicked = true;
     IOLMediaFormatPopup::Shared()->ShowFormatPopupAt({ static_cast<float>(screenPosition.x()),
                                                        static_cast<float>(screenPosition.y()) },
                                                      [this](const ConstPreset &preset,

@@ -30,6 +30,9 @@ public:
     // Never empty.
     const Orlimo::IOLFmtPresetRecentItem &Current() const { return *m_current; }
 
+    // Whether the picker has ever been opened.
+    bool HasPicked() const { return m_hasPicked; }
+
     void PickBeside(const QWidget &control);
     void PickAt(QPoint screenPosition);
 
@@ -47,6 +50,7 @@ private:
     void SetCurrent(ConstPreset preset, ConstNode node);
 
     std::shared_ptr<Orlimo::IOLFmtPresetRecentItem> m_current;
+    bool m_hasPicked = false;
 };
 
 } // namespace Host

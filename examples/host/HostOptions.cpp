@@ -1,11 +1,28 @@
 #include "HostOptions.h"
 
+#include "HostLanguage.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
+
+#include <cstdio>
+#include <cstdlib>
 
 namespace Host {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void RefuseUnknownLanguage(const QString &language)
+{
+    if (language.isEmpty() || FindHostLanguage(language))
+        return;
+    std::fprintf(stderr, "There is no language \"%s\".\n", qUtf8Printable(language));
+    std::exit(EXIT_FAILURE);
+}
+
+} // namespace
 
 HostOptions ReadHostOptions(const QCoreApplication &application)
 {
@@ -17,6 +34,9 @@ HostOptions ReadHostOptions(const QCoreApplication &application)
                                       u"Keep recent choices and custom presets in FOLDER."_s,
                                       u"FOLDER"_s);
     const QCommandLineOption
+            language(u"language"_s, u"Show all texts in LANGUAGE: en, de, es, fr, it, pt or ja."_s,
+                     u"LANGUAGE"_s);
+    const QCommandLineOption
             locator(u"locator"_s,
                     u"Tell on standard output where the widgets are whose names come in on "
                     "standard input."_s);
@@ -25,9 +45,11 @@ HostOptions ReadHostOptions(const QCoreApplication &application)
     parser.setApplicationDescription(
             u"A converter's window that has its output format chosen by the format picker."_s);
     parser.addHelpOption();
-    parser.addOptions({ description, settings, locator });
+    parser.addOptions({ description, settings, language, locator });
     parser.process(application);
-    return { parser.value(description), parser.value(settings), parser.isSet(locator) };
+    RefuseUnknownLanguage(parser.value(language));
+    return { parser.value(description), parser.value(settings), parser.value(language),
+             parser.isSet(locator) };
 }
 
 } // namespace Host

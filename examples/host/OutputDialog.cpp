@@ -21,7 +21,7 @@ OutputDialog::OutputDialog(FormatChooser &chooser, QWidget *parent)
 
 void OutputDialog::ShowCurrent()
 {
-    ui.lblFormat->setText(FormatText(m_chooser.Current().GetDisplayName()));
+    ui.lblFormat->setText(ChoiceText(m_chooser.Current()));
 }
 
 } // namespace Host

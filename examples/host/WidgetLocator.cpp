@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTabBar>
 #include <QTableWidget>
 #include <QWidget>
@@ -88,12 +90,41 @@ MaybePlace FindButton(const QString &name)
     return {};
 }
 
+MaybePlace FindTabAt(const QWidget &window, int index)
+{
+    const auto *bar = FindShown<QTabBar>(window);
+    if (!bar || index < 0 || index >= bar->count())
+        return {};
+    return Place { OnScreen(*bar, bar->tabRect(index)), bar->tabText(index) };
+}
+
 MaybePlace FindTab(const QWidget &window, const QString &text)
 {
     const auto *bar = FindShown<QTabBar>(window);
     for (int i = 0; bar && i < bar->count(); ++i) {
         if (text.isEmpty() ? i == bar->currentIndex() : bar->tabText(i) == text)
-            return Place { OnScreen(*bar, bar->tabRect(i)), bar->tabText(i) };
+            return FindTabAt(window, i);
+    }
+    return {};
+}
+
+MaybePlace FindMenuTitle(const QWidget &window, int index)
+{
+    const auto *bar = FindShown<QMenuBar>(window);
+    if (!bar || index < 0 || index >= bar->actions().size())
+        return {};
+    QAction *title = bar->actions().at(index);
+    return Place { OnScreen(*bar, bar->actionGeometry(title)), title->text() };
+}
+
+MaybePlace FindMenuEntry(const QString &text)
+{
+    const auto *menu = qobject_cast<const QMenu *>(QApplication::activePopupWidget());
+    if (!menu)
+        return {};
+    for (QAction *entry : menu->actions()) {
+        if (entry->text() == text)
+            return Place { OnScreen(*menu, menu->actionGeometry(entry)), text };
     }
     return {};
 }
@@ -137,6 +168,10 @@ MaybePlace FindInWindow(const QWidget &window, const QStringList &path)
         return PlaceOf(FindShown<QLineEdit>(window));
     if (kind == "tab"_L1)
         return FindTab(window, name);
+    if (kind == "tabAt"_L1)
+        return FindTabAt(window, name.toInt());
+    if (kind == "menu"_L1)
+        return FindMenuTitle(window, name.toInt());
     if (kind == "row"_L1)
         return FindRow(window, name, index);
     if (kind == "action"_L1)
@@ -150,6 +185,8 @@ MaybePlace Find(const QStringList &path)
 {
     if (path.first() == "button"_L1)
         return FindButton(path.value(1));
+    if (path.first() == "menu"_L1)
+        return FindMenuEntry(path.value(1));
     const QWidget *window = FindWindow(path.first());
     return window ? FindInWindow(*window, path) : MaybePlace();
 }

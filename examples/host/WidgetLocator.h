@@ -19,6 +19,9 @@ namespace Host {
 //   WINDOW/search         the line edit
 //   WINDOW/tab            the current tab
 //   WINDOW/tab/TEXT       the tab of that text
+//   WINDOW/tabAt/N        the tab N, from 0 on
+//   WINDOW/menu/N         the title N of the menu bar
+//   menu/TEXT             the entry of that text in the open menu
 //   WINDOW/row/LIST/N     the whole row N, from 0 on
 //   WINDOW/action/LIST/N  the box of that row's action icon
 //   WINDOW/cell/TABLE/N/M the cell in row N and column M

@@ -1,5 +1,7 @@
 #include "FormatChooser.h"
+#include "HostLanguage.h"
 #include "HostOptions.h"
+#include "HostTranslators.h"
 #include "HostWindow.h"
 #include "WidgetLocator.h"
 
@@ -15,12 +17,17 @@ using Orlimo::IOLMediaFormatPopup;
 
 namespace {
 
-int RunWindow(bool locator)
+// The catalogues are installed before the first widget is made, and go after the last.
+int RunWindow(const Host::HostOptions &options)
 {
+    const Host::HostLanguage &language = Host::FirstHostLanguage(options.language,
+                                                                 QLocale::system().uiLanguages());
+    Host::HostTranslators translators;
+    translators.Use(language);
     Host::FormatChooser chooser;
-    Host::HostWindow window(chooser);
+    Host::HostWindow window(chooser, translators, language);
     std::optional<Host::WidgetLocator> widgetLocator;
-    if (locator)
+    if (options.locator)
         widgetLocator.emplace();
     window.show();
     return QApplication::exec();
@@ -46,7 +53,7 @@ int main(int argc, char **argv)
 
     // The window need not wait for the load: the popup takes the formats up when they are there.
     IOLMediaFormatPopup::SetupExternalFormatData(options.description.toStdString());
-    const int result = RunWindow(options.locator);
+    const int result = RunWindow(options);
     IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
     return result;
 }

@@ -291,6 +291,24 @@ private Q_SLOTS:
             QCOMPARE(translation.type, QString());
     }
 
+    void theHostsSourcesHoldWhatTheHostAsksFor_data() { AddLanguageRows(CatalogueLanguages()); }
+
+    void theHostsSourcesHoldWhatTheHostAsksFor()
+    {
+        QFETCH(const int, language);
+        const QString locale = CatalogueLanguages().at(language).locale;
+        const TranslationMap source = ReadTranslationSource(hostFolder
+                                                            + u"/translations/%1.ts"_s.arg(locale));
+        const KeySet asked = AskedFor({ hostFolder });
+        const KeySet held = KeysOf(source);
+        QVERIFY2(asked == held,
+                 "missing:" + Listed(asked - held) + "\nstale:" + Listed(held - asked));
+        for (const SourceTranslation &translation : source) {
+            QCOMPARE(translation.type, QString());
+            QVERIFY(!translation.text.isEmpty());
+        }
+    }
+
     void formatDescriptionsHaveTranslatedTextsAndProperNames_data()
     {
         QTest::addColumn<QString>("path");
