@@ -18,7 +18,7 @@ function(orlimo_add_catalogues target template)
     set(CATALOGUES "${CMAKE_CURRENT_BINARY_DIR}/catalogues")
 
     set_source_files_properties(${arg_TRANSLATIONS} PROPERTIES OUTPUT_LOCATION "${CATALOGUES}")
-    qt_add_translation(catalogues ${arg_TRANSLATIONS})
+    qt6_add_translation(catalogues ${arg_TRANSLATIONS})
     configure_file("${template}" "${collection}" @ONLY)
     target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${collection}" ${catalogues})
     set_target_properties(${target} PROPERTIES AUTORCC ON)

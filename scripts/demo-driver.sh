@@ -91,7 +91,7 @@ start_driver() {
     trap '' PIPE # a host that is gone is found out by writing to it
     mkdir -p "$pictures"
     rm -f "$pictures"/*.png
-    unset LANGUAGE QT_QPA_PLATFORM QT_SCALE_FACTOR QT_STYLE_OVERRIDE XAUTHORITY
+    unset LANGUAGE WAYLAND_DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP DBUS_SESSION_BUS_ADDRESS "${!QT_@}"
     export LC_ALL=C.UTF-8
     export XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 

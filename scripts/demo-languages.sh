@@ -6,8 +6,18 @@
 # Rows follow at their next painting, the dialog at its next opening, tabs and search box at the next
 # start of the host.
 change_the_language() {
-    step language-menu
+    step language-before-the-popup
     start_host
+    click host/menu/0
+    click menu/Français
+    expect_text host/btnPick "Choisir le format…"
+    expect_gone host/lblNote
+    click host/menu/0
+    click menu/English
+    expect_text host/btnPick "Choose format…"
+    finish
+
+    step language-menu
     open_popup
     click_title host
     expect_gone popup
@@ -16,6 +26,13 @@ change_the_language() {
     finish "choice: none"
 
     step language-changed
+    click menu/Deutsch
+    expect_gone menu/Deutsch
+    click host/menu/0
+    click menu/English
+    expect_text host/btnPick "Choose format…"
+    expect_gone host/lblNote
+    click host/menu/0
     click menu/Deutsch
     expect_text host/btnPick "Format wählen …"
     expect_shown host/lblNote
@@ -59,11 +76,16 @@ change_the_language() {
     expected+=("choice: none")
 }
 
+# The host's button that opens the picker.
+declare -A pick_texts=([en]="Choose format…" [de]="Format wählen …" [es]="Elegir formato…"
+    [fr]="Choisir le format…" [it]="Scegli formato…" [pt]="Escolher formato…" [ja]="形式を選択…")
+
 # --- Every window ------------------------------------------------------------------------------
 
 # show_every_window LANGUAGE
 show_every_window() {
     start_host "$1"
+    expect_text host/btnPick "${pick_texts[$1]}"
     look_at_the_popup
     look_at_the_dialog
     look_at_the_presets_made
@@ -78,11 +100,19 @@ look_at_the_popup() {
     finish
 
     click button/pick
+    expect_shown popup/tabAt/5
     for tab in 1 2 3 4 5 0; do
         step "popup-${names[tab]}"
         click "popup/tabAt/$tab"
+        expect_current_tab "$tab"
         finish
     done
+}
+
+# expect_current_tab N
+expect_current_tab() {
+    ask text "popup/tabAt/$1"
+    expect_text popup/tab "$answer"
 }
 
 look_at_the_dialog() {

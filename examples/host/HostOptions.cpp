@@ -14,6 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString KnownLanguages()
+{
+    QStringList languages;
+    for (const HostLanguage &language : HostLanguages())
+        languages += QLocale::languageToCode(language.locale.language());
+    return languages.join(u", "_s);
+}
+
 void RefuseUnknownLanguage(const QString &language)
 {
     if (language.isEmpty() || FindHostLanguage(language))
@@ -30,12 +38,13 @@ HostOptions ReadHostOptions(const QCoreApplication &application)
             description(u"description"_s,
                         u"Read the formats from FILE and their icons from beside it."_s, u"FILE"_s,
                         QCoreApplication::applicationDirPath() + u"/formats/formats.json"_s);
-    const QCommandLineOption settings(u"settings"_s,
-                                      u"Keep recent choices and custom presets in FOLDER."_s,
-                                      u"FOLDER"_s);
     const QCommandLineOption
-            language(u"language"_s, u"Show all texts in LANGUAGE: en, de, es, fr, it, pt or ja."_s,
-                     u"LANGUAGE"_s);
+            settings(u"settings"_s,
+                     u"Keep recent choices, custom presets and the language in FOLDER."_s,
+                     u"FOLDER"_s);
+    const QCommandLineOption language(u"language"_s,
+                                      u"Show all texts in LANGUAGE: %1."_s.arg(KnownLanguages()),
+                                      u"LANGUAGE"_s);
     const QCommandLineOption
             locator(u"locator"_s,
                     u"Tell on standard output where the widgets are whose names come in on "

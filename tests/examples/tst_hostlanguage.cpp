@@ -77,7 +77,12 @@ private Q_SLOTS:
         QFETCH(const QString, asked);
         QFETCH(const QString, remembered);
         QFETCH(const QStringList, system);
-        RememberHostLanguage({ QString(), QLocale(remembered) });
+        QSettings settings(QSettings::IniFormat, QSettings::UserScope,
+                           QCoreApplication::organizationName(), u"Example Host Window"_s);
+        settings.remove("language");
+        if (!remembered.isEmpty())
+            settings.setValue("language", remembered);
+        settings.sync();
         QTEST(FirstHostLanguage(asked, system).name, "name");
     }
 
@@ -88,6 +93,12 @@ private Q_SLOTS:
             QCOMPARE(QFile::exists(PickerCatalogue(language)), !language.IsSource());
             QCOMPARE(QFile::exists(HostCatalogue(language)), !language.IsSource());
         }
+    }
+
+    void aRememberedLanguageIsTheNextStarts()
+    {
+        RememberHostLanguage(*FindHostLanguage(u"pt"_s));
+        QCOMPARE(FirstHostLanguage(QString(), { u"de"_s }).name, u"Português"_s);
     }
 
     void theHostsOwnTextsAreTranslated_data()

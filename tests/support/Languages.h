@@ -35,10 +35,19 @@ inline QList<Language> CatalogueLanguages()
              { "Japanese", QStringLiteral("日本語"), QStringLiteral("ja_JP") } };
 }
 
+inline Language LanguageOf(const QString &locale)
+{
+    for (const Language &language : CatalogueLanguages()) {
+        if (language.locale == locale)
+            return language;
+    }
+    qFatal("there is no catalogue for %s", qPrintable(locale));
+}
+
 inline QList<Language> AllLanguages()
 {
-    return CatalogueLanguages()
-           << Language { "English", QStringLiteral("English"), QStringLiteral("en") };
+    return CatalogueLanguages() << Language { "English", QStringLiteral("English"),
+                                              QStringLiteral("en") };
 }
 
 // Test rows with the one column "language", an index into AllLanguages(), where English is last.

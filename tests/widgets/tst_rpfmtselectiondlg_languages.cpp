@@ -132,6 +132,7 @@ private:
             QVERIFY2(ShowsItsWholeTitle(RowAt(formats, format)), title.constData());
             user.List("ListNode")->scrollToItem(formats.item(format));
             user.ClickRow("ListNode", format);
+            QCOMPARE(formats.currentRow(), format);
             const QListWidget &presets = *user.List("ListFormat");
             QVERIFY(presets.count() > 0);
             for (int preset = 0; preset < presets.count(); ++preset) {
@@ -231,7 +232,7 @@ private Q_SLOTS:
         const RPFmtItemDataWdg &row = RowAt(*user.List("ListFormat"), 0);
         QCOMPARE(row.Title(), u"Best"_s);
 
-        const InstalledLanguage japanese(CatalogueLanguages().last());
+        const InstalledLanguage japanese(LanguageOf(u"ja_JP"_s));
         QCOMPARE(row.Title(), u"最高"_s);
         QCOMPARE(user.TabTexts(), tabs);
         QCOMPARE(user.SearchBox()->placeholderText(), u"Search..."_s);
