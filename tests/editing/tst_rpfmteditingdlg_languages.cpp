@@ -112,7 +112,9 @@ private Q_SLOTS:
     void labelsShowTheirWholeTextInColumnsOfTheSameWidth()
     {
         openAndLook([](const EditingDriver &user) {
-            for (const QLabel *label : user.Dialog().findChildren<QLabel *>()) {
+            const auto labels = user.Dialog().findChildren<QLabel *>();
+            QCOMPARE(labels.size(), 8);
+            for (const QLabel *label : labels) {
                 const int column = leftLabels.contains(label->objectName()) ? leftLabelWidth
                                                                             : rightLabelWidth;
                 const int text = WidthOf(*label, label->text());
@@ -149,7 +151,9 @@ private Q_SLOTS:
     {
         openAndLook([](const EditingDriver &user) {
             const QComboBox &combo = user.Combo(QStringLiteral("cmbVQuality"));
-            for (const QString &option : Collected(QStringLiteral("text"))) {
+            const QStringList options = Collected(QStringLiteral("text"));
+            QVERIFY(options.contains(QStringLiteral("Same as source")));
+            for (const QString &option : options) {
                 const QString text = TranslateFormatText(option.toStdString());
                 const bool tooWide = text == QLatin1String("Same as source");
                 QVERIFY2(tooWide == (WidthOf(combo, text) > RoomForText(combo)), qPrintable(text));
@@ -168,7 +172,9 @@ private Q_SLOTS:
         };
         Edit(MakeSamplePreset("HD"), MakeSampleFormat(), [&known](const EditingDriver &user) {
             const QComboBox &combo = user.Combo(QStringLiteral("cmbVEncoder"));
-            for (const QString &name : Encoders()) {
+            const QStringList encoders = Encoders();
+            QVERIFY(encoders.contains(QStringLiteral("H.264")));
+            for (const QString &name : encoders) {
                 const bool isKnown = std::any_of(known.begin(), known.end(), [&name](auto &start) {
                     return name.startsWith(start);
                 });

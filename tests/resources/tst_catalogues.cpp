@@ -197,11 +197,15 @@ private Q_SLOTS:
         const QList<SourceMessage> expected = CatalogueMessages();
         QCOMPARE(expected.size(), 68);
         QCOMPARE(stored.size(), expected.size());
+        QList<QByteArray> formatLibrarysTexts;
         for (const StoredMessage &message : stored) {
             QVERIFY(message.comment.isEmpty());
+            if (message.context == formatContext)
+                formatLibrarysTexts += message.source;
             const SourceMessage found { message.context.constData(), message.source.constData() };
             QVERIFY2(expected.contains(found), found.text);
         }
+        QCOMPARE(formatLibrarysTexts, QList<QByteArray>(formatTexts.begin(), formatTexts.end()));
     }
 
     void everyMessageIsShownAsItsSourceTranslatesIt_data()

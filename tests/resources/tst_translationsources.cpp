@@ -48,8 +48,8 @@ KeySet AskedForByTheLibrary()
     return AskedFor(folders);
 }
 
-// Forms have a title and pages that are replaced before anybody sees them.
-const KeySet neverSeen {
+// Forms hold placeholders: titles of windows without a title bar, and pages that are replaced.
+const KeySet placeholders {
     { u"RPFmtItemDataWdgClass"_s, u"RPFmtItemDataWdg"_s },
     { u"RPFmtNodeWdgClass"_s, u"RPFmtNodeWdg"_s },
     { u"RPFmtRecentListWdgClass"_s, u"RPFmtRecentListWdg"_s },
@@ -272,7 +272,7 @@ class tst_TranslationSources : public Test::TestCase
 private Q_SLOTS:
     void theCodeAsksForTheMessagesOfTheCatalogues()
     {
-        const KeySet expected = CatalogueKeys() + neverSeen;
+        const KeySet expected = CatalogueKeys() + placeholders;
         const KeySet asked = AskedForByTheLibrary();
         QVERIFY2(asked == expected,
                  "missing:" + Listed(asked - expected) + "\nstale:" + Listed(expected - asked));
