@@ -9,6 +9,8 @@
 #include "IOLJsonValue.h"
 #include "IOLJsonWriter.h"
 
+#include <string>
+
 namespace Orlimo {
 
 namespace {
@@ -22,6 +24,29 @@ std::shared_ptr<IOLFormatNode> BuildNode(const char *name, const char *descripti
     return node;
 }
 
+std::shared_ptr<IOLFormatNode> ReadNode(const std::string &encoded)
+{
+    const std::string text = IOLBase64Codec::Decode(encoded);
+    if (text.empty())
+        return nullptr;
+    return IOLFormatNode::MallocFormatNode(
+            std::shared_ptr<const IOLJsonValue>(IOLJsonReader::ReadJsonString(text, nullptr)));
+}
+
+// Under a key that is free, or that holds the value already.
+void KeepAside(const std::string &value, const std::string &key)
+{
+    const auto settings = IOLAppSettings::Shared();
+    std::string aside = "unreadable/" + key;
+    std::string kept = settings->Value(aside);
+    for (int i = 2; !kept.empty() && kept != value; ++i) {
+        aside = "unreadable/" + key + '_' + std::to_string(i);
+        kept = settings->Value(aside);
+    }
+    if (kept.empty())
+        settings->SetValue(value, aside);
+}
+
 } // namespace
 
 std::shared_ptr<IOLFormatNode> LoadPresetNode(const std::string &key)
@@ -29,11 +54,10 @@ std::shared_ptr<IOLFormatNode> LoadPresetNode(const std::string &key)
     const std::string encoded = IOLAppSettings::Shared()->Value(key);
     if (encoded.empty())
         return nullptr;
-    const std::string text = IOLBase64Codec::Decode(encoded);
-    if (text.empty())
-        return nullptr;
-    return IOLFormatNode::MallocFormatNode(
-            std::shared_ptr<const IOLJsonValue>(IOLJsonReader::ReadJsonString(text, nullptr)));
+    auto node = ReadNode(encoded);
+    if (!node)
+        KeepAside(encoded, key);
+    return node;
 }
 
 void StorePresetNode(const std::shared_ptr<IOLFormatNode> &node, const std::string &key)

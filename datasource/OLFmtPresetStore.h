@@ -15,7 +15,8 @@ class IOLFormatNode;
 inline constexpr char OLRecentPresetsKey[] = "recent_format_preset";
 inline constexpr char OLCustomPresetsKey[] = "custom_format_preset";
 
-// Empty where nothing usable is stored under key.
+// Empty where nothing usable is stored under key. A value that cannot be read, perhaps because a
+// later version wrote it, goes to the group "unreadable" of the settings with the next save.
 std::shared_ptr<IOLFormatNode> LoadPresetNode(const std::string &key);
 
 // Does nothing without a node or a key.

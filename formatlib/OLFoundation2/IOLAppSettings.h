@@ -36,6 +36,10 @@ public:
     /// Writes what was set since the last successful call. The file is replaced as a whole: after a
     /// failure, which logs one line with the file and the reason, it holds what it held before, and
     /// the next call tries again.
+    ///
+    /// Nothing that others wrote is lost: a file that is no INI file, or only in part, is kept
+    /// beside it under its name with ".unreadable" behind (and a number where that is taken), which
+    /// is logged; a stored value that is no text is kept under "unreadable/" and its key.
     virtual void Save() = 0;
 
 protected:

@@ -42,6 +42,42 @@ std::string NormalKey(const std::string &key)
     return normal;
 }
 
+// QSettings tells so of a file that it has not seen before, and once it has parsed all of it.
+bool IsDamaged(const QString &path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    settings.allKeys();
+    return settings.status() == QSettings::FormatError;
+}
+
+bool HaveSameContent(const QString &path, const QString &other)
+{
+    QFile file(path);
+    QFile otherFile(other);
+    return file.open(QIODevice::ReadOnly) && otherFile.open(QIODevice::ReadOnly)
+            && file.size() == otherFile.size() && file.readAll() == otherFile.readAll();
+}
+
+// Beside the file, under a name that is free or belongs to a file of the same content.
+QString NameForDamagedFile(const QString &path)
+{
+    QString name = path + QStringLiteral(".unreadable");
+    for (int i = 2; QFileInfo::exists(name) && !HaveSameContent(name, path); ++i)
+        name = path + QStringLiteral(".unreadable-%1").arg(i);
+    return name;
+}
+
+// What is stored under the key and is no text, which no version of ours writes, is kept under
+// another before a text takes its place.
+void KeepOtherThanText(QSettings &settings, const QString &key)
+{
+    const QVariant stored = settings.value(key);
+    const bool isText = stored.typeId() == QMetaType::QString
+            || stored.typeId() == QMetaType::QByteArray;
+    if (stored.isValid() && !isText)
+        settings.setValue(QStringLiteral("unreadable/") + key, stored);
+}
+
 bool CopyIfThere(const QString &path, const QString &copy)
 {
     const QFileInfo info(path);
@@ -151,6 +187,8 @@ std::string OLAppSettings::Write(const QString &path) const
     const QString written = staging.filePath(QStringLiteral("written.ini"));
     if (!CopyIfThere(target, copy))
         return "the present file cannot be copied";
+    if (const std::string failure = KeepDamagedFile(target, copy); !failure.empty())
+        return failure;
     // QSettings takes a file for written that a full disk has cut short, so there must be room for
     // it beforehand: a text takes up to four times its length in the file.
     if (!HasRoom(staging, 4 * (QFileInfo(target).size() + UnsavedSize()) + 4096))
@@ -158,6 +196,21 @@ std::string OLAppSettings::Write(const QString &path) const
     if (!WriteValues(copy, written))
         return "it cannot be written whole";
     return ReplaceFile(target, written);
+}
+
+// QSettings drops what it does not understand of a file, so the whole of it is kept aside.
+std::string OLAppSettings::KeepDamagedFile(const QString &path, const QString &copy)
+{
+    if (!IsDamaged(copy))
+        return {};
+    const QString name = NameForDamagedFile(path);
+    if (QFileInfo::exists(name))
+        return {};
+    if (!QFile::copy(path, name))
+        return "the present file is damaged, and cannot be kept aside";
+    IOLLogConfig::Printf("Settings %s are damaged, kept in %s", qUtf8Printable(path),
+                         qUtf8Printable(name));
+    return {};
 }
 
 qint64 OLAppSettings::UnsavedSize() const
@@ -173,8 +226,10 @@ qint64 OLAppSettings::UnsavedSize() const
 bool OLAppSettings::WriteValues(const QString &copy, const QString &written) const
 {
     QSettings settings(copy, QSettings::IniFormat);
-    for (const auto &[key, value] : m_unsaved)
+    for (const auto &[key, value] : m_unsaved) {
+        KeepOtherThanText(settings, ToQString(key));
         settings.setValue(ToQString(key), ToQString(value));
+    }
     settings.sync();
     return settings.status() != QSettings::AccessError && QFile::rename(copy, written)
             && IsComplete(written);

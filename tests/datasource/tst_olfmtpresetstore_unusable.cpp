@@ -26,13 +26,16 @@ class tst_OLFmtPresetStore_Unusable : public Test::TestCase
 private Q_SLOTS:
     void unusableValuesGiveFreshTreesAndStayAsTheyAre_data();
     void unusableValuesGiveFreshTreesAndStayAsTheyAre();
-    void theNextSaveReplacesAnUnusableValue();
+    void theNextSaveKeepsAnUnusableValueAside();
+    void everyUnusableValueIsKept();
+    void aUsableValueIsNotKeptAside();
 
 private:
     std::shared_ptr<IOLFmtPresetDataSource> m_dataSource;
 
     void prepare() override
     {
+        Orlimo::IOLAppSettings::Shared()->Save(); // what the last test kept in memory
         QFile::remove(Settings().fileName());
         restart();
     }
@@ -93,7 +96,7 @@ void tst_OLFmtPresetStore_Unusable::unusableValuesGiveFreshTreesAndStayAsTheyAre
     QVERIFY(Stored(customKey) == value);
 }
 
-void tst_OLFmtPresetStore_Unusable::theNextSaveReplacesAnUnusableValue()
+void tst_OLFmtPresetStore_Unusable::theNextSaveKeepsAnUnusableValueAside()
 {
     Store("garbage");
     restart();
@@ -101,6 +104,31 @@ void tst_OLFmtPresetStore_Unusable::theNextSaveReplacesAnUnusableValue()
     m_dataSource->SaveRecentPresets();
     QCOMPARE(StoredChildNames(recentKey), "A"s);
     QCOMPARE(Stored(customKey), QByteArray("garbage"));
+    QCOMPARE(Stored("unreadable/recent_format_preset"_L1), QByteArray("garbage"));
+    restart();
+    QCOMPARE(m_dataSource->GetRecentItems().size(), 1);
+}
+
+void tst_OLFmtPresetStore_Unusable::everyUnusableValueIsKept()
+{
+    for (const QByteArray value : { "first", "second", "first" }) {
+        Store(value);
+        restart();
+        m_dataSource->SaveCustomPresets();
+    }
+    QCOMPARE(Stored("unreadable/custom_format_preset"_L1), QByteArray("first"));
+    QCOMPARE(Stored("unreadable/custom_format_preset_2"_L1), QByteArray("second"));
+    QCOMPARE(Stored("unreadable/custom_format_preset_3"_L1), QByteArray());
+}
+
+void tst_OLFmtPresetStore_Unusable::aUsableValueIsNotKeptAside()
+{
+    choose({ "A" });
+    m_dataSource->SaveRecentPresets();
+    m_dataSource->SaveCustomPresets();
+    restart();
+    m_dataSource->SaveRecentPresets();
+    QVERIFY(!Test::SettingsFile().contains("unreadable"));
 }
 
 ORLIMO_TEST_MAIN(tst_OLFmtPresetStore_Unusable)

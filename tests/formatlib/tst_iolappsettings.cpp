@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <sys/resource.h>
 
@@ -199,14 +200,75 @@ private Q_SLOTS:
         QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string());
     }
 
-    void saveReplacesAFileThatIsNotSettings()
+    void saveKeepsAFileThatIsNotSettingsAside_data()
     {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("no settings") << QByteArray("no settings\n");
+        QTest::newRow("noise") << QByteArray("\x7f\x00\xff[\n=\n\x80", 8);
+        QTest::newRow("settings before noise") << QByteArray("[General]\nkey=a\nnoise\n");
+    }
+
+    void saveKeepsAFileThatIsNotSettingsAside()
+    {
+        QFETCH(const QByteArray, content);
         QDir().mkpath(QFileInfo(FilePath()).path());
-        Create(FilePath(), "no settings\n");
+        Create(FilePath(), content);
         IOLAppSettings::Shared()->SetValue("ours", "key");
+        const QString kept = FilePath() + QStringLiteral(".unreadable");
+        ExpectMessage(kept);
         IOLAppSettings::Shared()->Save();
         const QSettings fresh(FilePath(), QSettings::IniFormat);
         QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QStringLiteral("ours"));
+        QCOMPARE(Content(kept), content);
+    }
+
+    void everyDamagedFileIsKeptOnce()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        const QString kept = FilePath() + QStringLiteral(".unreadable");
+        Create(kept, "first\n");
+        for (const char *content : { "first\n", "second\n", "second\n" }) {
+            Create(FilePath(), content);
+            const bool isNew = !QFileInfo::exists(kept + QStringLiteral("-2"))
+                    && qstrcmp(content, "second\n") == 0;
+            if (isNew)
+                ExpectMessage(kept + QStringLiteral("-2"));
+            IOLAppSettings::Shared()->SetValue(content, "key");
+            IOLAppSettings::Shared()->Save();
+        }
+        QCOMPARE(Content(kept), QByteArray("first\n"));
+        QCOMPARE(Content(kept + QStringLiteral("-2")), QByteArray("second\n"));
+        QVERIFY(!QFileInfo::exists(kept + QStringLiteral("-3")));
+    }
+
+    void aDamagedFileThatCannotBeKeptStaysAsItIs()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        const QByteArray content = "noise of some length\n" + QByteArray(8000, 'x') + '\n';
+        Create(FilePath(), content);
+        IOLAppSettings::Shared()->SetValue("ours", "key");
+        {
+            const FullDisk fullDisk(100);
+            ExpectFailedSave();
+        }
+        QCOMPARE(Content(FilePath()), content);
+        ExpectMessage(FilePath() + QStringLiteral(".unreadable"));
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(FilePath() + QStringLiteral(".unreadable")), content);
+    }
+
+    void aValueThatIsNoTextIsKeptUnderAnotherKey()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "[General]\nlist=a, b\ntext=c\n");
+        for (const char *key : { "list", "text" })
+            IOLAppSettings::Shared()->SetValue("ours", key);
+        IOLAppSettings::Shared()->Save();
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("list")).toString(), QStringLiteral("ours"));
+        QCOMPARE(fresh.value(QStringLiteral("unreadable/list")).toStringList(),
+                 QStringList({ QStringLiteral("a"), QStringLiteral("b") }));
+        QVERIFY(!fresh.contains(QStringLiteral("unreadable/text")));
     }
 
     void aFolderThatCannotBeMadeIsLoggedAndTheNextSaveWrites()
@@ -305,6 +367,12 @@ private:
         return QSettings(QSettings::IniFormat, QSettings::UserScope,
                          QCoreApplication::organizationName(), QCoreApplication::applicationName())
                 .fileName();
+    }
+
+    static void ExpectMessage(const QString &containing)
+    {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QRegularExpression::escape(containing)));
     }
 
     static void ExpectFailedSave()
