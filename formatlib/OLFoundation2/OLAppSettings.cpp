@@ -78,6 +78,24 @@ void KeepOtherThanText(QSettings &settings, const QString &key)
         settings.setValue(QStringLiteral("unreadable/") + key, stored);
 }
 
+QString StagingPrefix(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.path() + QStringLiteral("/.") + info.fileName() + QStringLiteral("-saving-");
+}
+
+// Whoever holds the lock is the only one who saves the file; what others have begun was killed.
+void RemoveAbandonedStaging(const QString &path)
+{
+    const QFileInfo prefix(StagingPrefix(path));
+    const auto folders = prefix.dir().entryInfoList(QDir::Dirs | QDir::Hidden
+                                                    | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders) {
+        if (folder.fileName().startsWith(prefix.fileName()))
+            QDir(folder.filePath()).removeRecursively();
+    }
+}
+
 bool CopyIfThere(const QString &path, const QString &copy)
 {
     const QFileInfo info(path);
@@ -180,7 +198,8 @@ std::string OLAppSettings::Write(const QString &path) const
         return "the file is read-only";
     const QString existing = info.canonicalFilePath(); // empty where there is none
     const QString target = existing.isEmpty() ? path : existing;
-    const QTemporaryDir staging(QFileInfo(target).path() + QStringLiteral("/.settings-XXXXXX"));
+    RemoveAbandonedStaging(target);
+    const QTemporaryDir staging(StagingPrefix(target) + QStringLiteral("XXXXXX"));
     if (!staging.isValid())
         return staging.errorString().toStdString();
     const QString copy = staging.filePath(QStringLiteral("copy.ini"));

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void theNextSaveKeepsAnUnusableValueAside();
     void everyUnusableValueIsKept();
     void aUsableValueIsNotKeptAside();
+    void aFileDamagedWhileTheProgramRunsLosesNoChoice_data();
+    void aFileDamagedWhileTheProgramRunsLosesNoChoice();
 
 private:
     std::shared_ptr<IOLFmtPresetDataSource> m_dataSource;
@@ -129,6 +131,34 @@ void tst_OLFmtPresetStore_Unusable::aUsableValueIsNotKeptAside()
     restart();
     m_dataSource->SaveRecentPresets();
     QVERIFY(!Test::SettingsFile().contains("unreadable"));
+}
+
+void tst_OLFmtPresetStore_Unusable::aFileDamagedWhileTheProgramRunsLosesNoChoice_data()
+{
+    QTest::addColumn<QByteArray>("damage");
+    QTest::addColumn<bool>("isNoise");
+    QTest::newRow("cut short") << QByteArray("[General]\nrecent_format_preset=eyJ2ZX") << false;
+    QTest::newRow("cut within a name") << QByteArray("[General]\nrecent_for") << true;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("noise") << QByteArray("\x00\x80\xff\n[\x01", 6) << true;
+}
+
+void tst_OLFmtPresetStore_Unusable::aFileDamagedWhileTheProgramRunsLosesNoChoice()
+{
+    QFETCH(const QByteArray, damage);
+    QFETCH(const bool, isNoise);
+    choose({ "A" });
+    m_dataSource->SaveRecentPresets();
+    QFile file(Settings().fileName());
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(file.write(damage), damage.size());
+    file.close();
+
+    choose({ "B" });
+    if (isNoise)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"\\.unreadable"_s));
+    m_dataSource->SaveRecentPresets();
+    QCOMPARE(StoredChildNames(recentKey), "A, B"s);
 }
 
 ORLIMO_TEST_MAIN(tst_OLFmtPresetStore_Unusable)
