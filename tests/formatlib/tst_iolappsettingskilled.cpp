@@ -79,7 +79,7 @@ private Q_SLOTS:
         int kills = 0;
         while (saved < savesToSurvive) {
             const auto child = start("key", saved + 1, 1'000'000);
-            const QByteArray output = killLater(*child, random.bounded(1, 120));
+            const QByteArray output = killAfter(*child, saved + random.bounded(20), random);
             const std::string stored = storedValue("key");
             const int number = NumberOf(stored);
             QCOMPARE(stored, number == 0 ? std::string() : ValueOf(number));
@@ -135,14 +135,16 @@ private:
         return process;
     }
 
-    // Returns what the process said until it was killed, so long after it began its first save.
-    static QByteArray killLater(QProcess &process, int milliseconds)
+    // Returns what the process said until it was killed, at any moment after it has saved number.
+    static QByteArray killAfter(QProcess &process, int number, QRandomGenerator &random)
     {
-        process.waitForReadyRead();
-        QTest::qWait(milliseconds);
+        QByteArray output;
+        while (LastNumber(output, "end ") < number && process.waitForReadyRead())
+            output += process.readAllStandardOutput();
+        QTest::qWait(random.bounded(10));
         process.kill();
         process.waitForFinished();
-        return process.readAllStandardOutput();
+        return output + process.readAllStandardOutput();
     }
 
     std::string storedValue(const char *key) const

@@ -35,6 +35,14 @@ void ClickAction(QListWidget &list, int row)
     ClickOnScreen(list, ActionBoxOnScreen(list, row).center());
 }
 
+void ClickTrashOfRecent(QListWidget &list, int row)
+{
+    const QListWidgetItem *item = list.item(row);
+    ClickAction(list, row);
+    if (item && list.row(item) < 0)
+        delete item;
+}
+
 QStringList RowTitles(const QListWidget &list)
 {
     QStringList titles;

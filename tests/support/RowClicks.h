@@ -16,6 +16,10 @@ void ClickOnScreen(QWidget &widget, QPoint point);
 void ClickRow(QListWidget &list, int row); // left of the action icon
 void ClickAction(QListWidget &list, int row);
 
+// Clicks the action icon of a recent choice, which takes its row out of the list. The item, which
+// the list leaves to nobody, is deleted here.
+void ClickTrashOfRecent(QListWidget &list, int row);
+
 // The titles of the rows, as assistive technology reads them.
 QStringList RowTitles(const QListWidget &list);
 

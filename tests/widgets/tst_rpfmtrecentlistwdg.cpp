@@ -131,7 +131,7 @@ private Q_SLOTS:
         showRecent({ "one", "two", "three" });
         const QPointer<RPFmtItemDataWdg> first = rowAt(0);
         const QPointer<RPFmtItemDataWdg> last = rowAt(2);
-        ClickAction(list(), 1);
+        Test::ClickTrashOfRecent(list(), 1);
         QCOMPARE(RowTitles(list()), QStringList({ u"three"_s, u"one"_s }));
         QVERIFY(first && last); // the list is not filled anew
         QCOMPARE(rowAt(0), first.get());
@@ -149,7 +149,7 @@ private Q_SLOTS:
     void deletingTheOnlyChoiceEmptiesThePage()
     {
         showRecent({ "one" });
-        ClickAction(list(), 0);
+        Test::ClickTrashOfRecent(list(), 0);
         QCOMPARE(list().count(), 0);
         QCOMPARE(list().currentRow(), -1);
         QVERIFY(DataSource()->GetRecentItems().empty());
@@ -159,7 +159,7 @@ private Q_SLOTS:
     {
         showRecent({ "one", "two" });
         QVERIFY(DataSource()->RemoveRecentItem(rowAt(1)->recentItem));
-        ClickAction(list(), 1);
+        Test::ClickTrashOfRecent(list(), 1);
         QCOMPARE(RowTitles(list()), QStringList({ u"two"_s }));
         QCOMPARE(DataSource()->GetRecentItems().size(), std::size_t(1));
     }
@@ -202,9 +202,12 @@ private Q_SLOTS:
         QFETCH(const bool, deletes);
         showRecent({ "one", "two" });
         const QRect row = RowOnScreen(list(), 1);
+        const QListWidgetItem *item = list().item(1);
         ClickOnScreen(list(), { row.right() - fromRight, row.center().y() + fromMiddle });
         QCOMPARE(list().count(), deletes ? 1 : 2);
         QCOMPARE(choices.size(), deletes ? 0 : 1);
+        if (deletes)
+            delete item;
     }
 
     void theMousePointerDecidesNotTheIconOrThePointOfTheEvent()
@@ -212,7 +215,8 @@ private Q_SLOTS:
         showRecent({ "one", "two" });
         rowAt(1)->actionIcon = QIcon();
         QCursor::setPos(ActionBoxOnScreen(list(), 1).center());
-        const QRect row = list().visualItemRect(list().item(1));
+        const std::unique_ptr<QListWidgetItem> item(list().item(1));
+        const QRect row = list().visualItemRect(item.get());
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row.topLeft() + QPoint(20, 20));
         QCOMPARE(RowTitles(list()), QStringList({ u"two"_s }));
         QVERIFY(choices.isEmpty());

@@ -54,7 +54,7 @@ private:
     {
         page->SearchRecentList(text);
         const auto item = itemOf(0);
-        Test::ClickAction(list(), 0);
+        Test::ClickTrashOfRecent(list(), 0);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return item;
     }
@@ -117,7 +117,7 @@ private Q_SLOTS:
     void aMatchIsDeletedFromTheDataToo()
     {
         page->SearchRecentList(u"MP4"_s);
-        Test::ClickAction(list(), 0);
+        Test::ClickTrashOfRecent(list(), 0);
         QCOMPARE(RowTitles(list()), QStringList({ u"MP4"_s }));
         page->ResetRecentSearch();
         QCOMPARE(RowTitles(list()), QStringList({ u"AVI"_s, u"MP4"_s }));
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void withoutASearchADeletedChoiceIsReleased()
     {
         const auto item = itemOf(0);
-        Test::ClickAction(list(), 0);
+        Test::ClickTrashOfRecent(list(), 0);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(item.expired());
     }

@@ -1,5 +1,6 @@
 #include "MapTranslator.h"
 #include "PopupDriver.h"
+#include "RowClicks.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
 
@@ -268,7 +269,7 @@ private Q_SLOTS:
         open.driver.ClickRow("ListFormat", 1);
         open.open();
         open.driver.SwitchTab(u"Recent"_s);
-        open.driver.ClickAction("lwRecentList", 0);
+        Test::ClickTrashOfRecent(*open.driver.List("lwRecentList"), 0);
         QCOMPARE(open.driver.RowTexts("lwRecentList"), QStringList({ u"MP4 HD 1080P"_s }));
         QCOMPARE(open.reports.size(), 2);
         QVERIFY(open.popup.isVisible());
