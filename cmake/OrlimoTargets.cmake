@@ -27,6 +27,16 @@ function(orlimo_configure_target target)
             $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>
             $<$<BOOL:${ORLIMO_WARNINGS_AS_ERRORS}>:-Werror>)
     endif()
+    if(ORLIMO_SANITIZERS)
+        set(sanitize "-fsanitize=${ORLIMO_SANITIZERS}")
+        target_compile_options(${target} PRIVATE
+            ${sanitize} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE ${sanitize})
+    endif()
+    if(ORLIMO_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage)
+        target_link_options(${target} PRIVATE --coverage)
+    endif()
 endfunction()
 
 # On ELF only the interfaces of the public headers leave the library: neither the instantiations of
