@@ -41,12 +41,17 @@ endfunction()
 
 # On ELF only the interfaces of the public headers leave the library: neither the instantiations of
 # other libraries' templates nor unique symbols, one of which would keep the library loaded for ever.
+# And a library names everything that it needs, but for the runtimes of sanitizers, which Clang gives
+# to executables only.
 function(_orlimo_limit_exports target)
     if(WIN32 OR APPLE)
         return()
     endif()
     set(script "${ORLIMO_CMAKE_DIR}/exports.map")
-    target_link_options(${target} PRIVATE "LINKER:--version-script=${script}" "LINKER:--no-undefined")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${script}")
+    if(NOT ORLIMO_SANITIZERS)
+        target_link_options(${target} PRIVATE "LINKER:--no-undefined")
+    endif()
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
 

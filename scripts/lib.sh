@@ -11,6 +11,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools librsvg2-bin)
 test_packages=(binutils fonts-dejavu-core fonts-ipafont-gothic git python3-jsonschema)
 check_packages=(clang clang-format)
+fuzz_packages=(clang libclang-rt-dev)
 screen_packages=(fonts-dejavu-core fonts-ipafont-gothic imagemagick openbox qt6-translations-l10n
     x11-utils xdotool xvfb)
 

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void presetsAreFoundByTheirDescription();
     void lettersAreFoldedByUnicode_data();
     void lettersAreFoldedByUnicode();
+    void aLongKeywordIsFoundInRepetitionsWithoutDelay();
     void searchingForNothingOrInNothingGivesNothing();
     void theResultsRootIsACopyWithoutTheRest();
     void theResultIsIndependentOfTheTree();
@@ -194,6 +195,18 @@ void tst_OLFmtPresetSearch::lettersAreFoldedByUnicode()
     QTEST(search(root, keyword)->ChildCount() == 1, "found");
     const std::vector<Item> items { MakeItem(MakePreset(name), MakeNode(name)) };
     QTEST(m_dataSource.FilterRecentItems(items, keyword) == items, "found");
+}
+
+void tst_OLFmtPresetSearch::aLongKeywordIsFoundInRepetitionsWithoutDelay()
+{
+    const std::string half(std::size_t(1) << 20, 'a');
+    const Node tree = MakeNode("Formats");
+    tree->AddPreset(MakePreset(half + half, half + 'b' + half));
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(m_dataSource.SearchFormatNode(tree, half + 'b' + half, nullptr)->PresetCount(), 1);
+    QCOMPARE(m_dataSource.SearchFormatNode(tree, half + "bb", nullptr)->PresetCount(), 0);
+    QVERIFY(timer.elapsed() < 5'000);
 }
 
 void tst_OLFmtPresetSearch::searchingForNothingOrInNothingGivesNothing()

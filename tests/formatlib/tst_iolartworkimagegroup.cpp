@@ -1,4 +1,5 @@
 #include "ArtworkFileBytes.h"
+#include "MessageRecorder.h"
 #include "TestCase.h"
 
 #include "IOLArtworkImageGroup.h"
@@ -28,14 +29,30 @@ QByteArray Artwork()
                                Test::PlainImage(faceID, 16, Qt::red) });
 }
 
-ManagerPointer OpenArtwork()
+constexpr qsizetype endOfHeader = 33; // of a PNG image
+
+// A compressed text whose checksum is wrong, as a chunk of a PNG image.
+QByteArray TextChunk()
+{
+    const QByteArray text = QByteArray("Comment\0\0", 9) + qCompress("text").sliced(4);
+    const auto length = qToBigEndian(static_cast<quint32>(text.size()));
+    return QByteArray(reinterpret_cast<const char *>(&length), sizeof length) + "zTXt" + text
+            + "none";
+}
+
+ManagerPointer Open(const QByteArray &artwork)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("a.icfg")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(Artwork()) < 0)
+    if (!file.open(QIODevice::WriteOnly) || file.write(artwork) < 0)
         qFatal("cannot write the file");
     file.close();
     return IOLArtworkImageMgr::MallocArtworkImageMgr(file.fileName().toStdString(), nullptr);
+}
+
+ManagerPointer OpenArtwork()
+{
+    return Open(Artwork());
 }
 
 QIcon Icon()
@@ -149,6 +166,17 @@ private Q_SLOTS:
         QCOMPARE(manager->ArtworkGroup(faceID)->Icon().availableSizes().size(), 3);
         QPixmapCache::clear();
         QCOMPARE(manager->ArtworkGroup(faceID)->Icon().availableSizes().size(), 3);
+    }
+
+    // The decoder would report the damaged one.
+    void theTextsInAnImageAreNotRead()
+    {
+        Test::ArtworkImage image = Test::PlainImage(faceID, 16, Qt::red);
+        image.png.insert(endOfHeader, TextChunk());
+        Test::MessageRecorder recorder;
+        const QIcon icon = Open(Test::ArtworkFile({ image }))->ArtworkGroup(faceID)->Icon();
+        QCOMPARE(Painted(icon, 16, 1.0).pixelColor(8, 8), QColor(Qt::red));
+        QVERIFY(recorder.Take().isEmpty());
     }
 
     void translucentPixelsAreKept()

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "IsolatedSettings.h"
+
 #include <QApplication>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace Test {
@@ -19,18 +19,6 @@ private Q_SLOTS:
 protected:
     // Called before every test function.
     virtual void prepare() { }
-};
-
-// Keeps the settings of the process in a temporary folder, which goes when the object does.
-class IsolatedSettings
-{
-public:
-    IsolatedSettings();
-
-    QString Folder() const { return m_folder.path(); }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 template<class TestObject>

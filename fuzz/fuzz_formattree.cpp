@@ -1,0 +1,3 @@
+#include "LibFuzzerMain.h"
+
+ORLIMO_FUZZ_MAIN(Fuzz::FormatTree)
