@@ -34,6 +34,9 @@ public:
     static std::optional<OLArtworkFile> Read(const std::string &path,
                                              std::shared_ptr<const IOLError> *error);
 
+    // All images, ordered by face id and size.
+    std::span<const OLArtworkImage> Images() const { return m_images; }
+
     // The images of a face id from the smallest to the largest; none where the file has none.
     std::span<const OLArtworkImage> Images(int faceID) const;
 

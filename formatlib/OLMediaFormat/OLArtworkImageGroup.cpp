@@ -42,17 +42,6 @@ QByteArray WithoutTexts(const QByteArray &png)
     return pixels;
 }
 
-// Looks at the size in the image's header first, so that nothing larger is ever decoded.
-QPixmap Decode(const OLArtworkImage &image)
-{
-    QByteArray png = WithoutTexts(image.png);
-    QBuffer buffer(&png);
-    QImageReader reader(&buffer, "png");
-    if (!reader.canRead() || reader.size() != image.size)
-        return {};
-    return QPixmap::fromImage(reader.read());
-}
-
 } // namespace
 
 OLArtworkImageGroup::OLArtworkImageGroup(std::shared_ptr<const OLArtworkFile> artwork,
@@ -68,6 +57,17 @@ std::shared_ptr<const OLArtworkImageGroup> OLArtworkImageGroup::Make(
 {
     auto group = std::make_shared<OLArtworkImageGroup>(std::move(artwork), images);
     return group->Decodes() ? group : nullptr;
+}
+
+// Looks at the size in the image's header first, so that nothing larger is ever decoded.
+QImage OLArtworkImageGroup::Decode(const OLArtworkImage &image)
+{
+    QByteArray png = WithoutTexts(image.png);
+    QBuffer buffer(&png);
+    QImageReader reader(&buffer, "png");
+    if (!reader.canRead() || reader.size() != image.size)
+        return {};
+    return reader.read();
 }
 
 bool OLArtworkImageGroup::Decodes() const
@@ -92,7 +92,7 @@ QPixmap OLArtworkImageGroup::Pixmap(std::size_t index) const
     QPixmap pixmap;
     if (QPixmapCache::find(m_keys[index], &pixmap))
         return pixmap;
-    pixmap = Decode(m_images[index]);
+    pixmap = QPixmap::fromImage(Decode(m_images[index]));
     if (!pixmap.isNull())
         m_keys[index] = QPixmapCache::insert(pixmap);
     return pixmap;

@@ -3,6 +3,7 @@
 #include "IOLArtworkImageGroup.h"
 #include "OLArtworkFile.h"
 
+#include <QImage>
 #include <QPixmapCache>
 
 #include <memory>
@@ -19,6 +20,9 @@ public:
     // share bytes with artwork.
     static std::shared_ptr<const OLArtworkImageGroup> Make(
             std::shared_ptr<const OLArtworkFile> artwork, std::span<const OLArtworkImage> images);
+
+    // Null where the image is not a PNG image of the size that the table gives.
+    static QImage Decode(const OLArtworkImage &image);
 
     OLArtworkImageGroup(std::shared_ptr<const OLArtworkFile> artwork,
                         std::span<const OLArtworkImage> images);

@@ -3,6 +3,7 @@
 #include "OLOptionLayout.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace Orlimo {
@@ -10,6 +11,18 @@ namespace Orlimo {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+// The number of options or encoders where a fault keeps it from being known.
+constexpr int unknownCount = OLMaximumInteger;
+
+template<class Option>
+void ReadOption(OLJsonPath &path, const QJsonValue &value, Option &option)
+{
+    OLJsonMembers members(path, value);
+    option.text = members.Text("text"_L1);
+    OLOptionLayout<Option>::Read(members, option);
+    members.ExpectNoMore();
+}
 
 template<class Option>
 OLOptionListPointer<Option> ReadOptionList(std::string id, OLJsonPath &path,
@@ -22,12 +35,8 @@ OLOptionListPointer<Option> ReadOptionList(std::string id, OLJsonPath &path,
     const QJsonArray array = value.toArray();
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(path, i);
-        OLJsonMembers members(path, array.at(i));
-        Option option;
-        option.text = members.Text("text"_L1);
-        OLOptionLayout<Option>::Read(members, option);
-        members.ExpectNoMore();
-        list->options.push_back(std::move(option));
+        Option &option = list->options.emplace_back();
+        path.Attempt([&] { ReadOption(path, array.at(i), option); });
     }
     return list;
 }
@@ -43,14 +52,19 @@ const std::shared_ptr<const Table> &Resolve(
     return found->second;
 }
 
+// Empty where the reference has a fault or leads to a table that could not be read.
 template<class Table>
-const std::shared_ptr<const Table> &TakeReference(
+std::shared_ptr<const Table> TakeReference(
         const std::map<std::string, std::shared_ptr<const Table>> &tables, OLJsonMembers &members,
         QLatin1StringView name)
 {
-    const std::string id = members.Text(name);
-    const OLJsonPath::Scope at(members.Path(), QString(name));
-    return Resolve(tables, id, members.Path());
+    std::shared_ptr<const Table> table;
+    members.Path().Attempt([&] {
+        const std::string id = members.RequiredText(name);
+        const OLJsonPath::Scope at(members.Path(), QString(name));
+        table = Resolve(tables, id, members.Path());
+    });
+    return table;
 }
 
 // Takes the index called name, which is inside a list of count entries or −1.
@@ -61,7 +75,7 @@ int TakeIndex(OLJsonMembers &members, QLatin1StringView name, int otherwise, int
 
 OLEncoderKind TakeKind(OLJsonMembers &members)
 {
-    const std::string kind = members.Text("kind"_L1);
+    const std::string kind = members.RequiredText("kind"_L1);
     if (kind != "video" && kind != "audio")
         members.Path().FailAt("kind"_L1, "\"video\" or \"audio\" is expected");
     return kind == "video" ? OLEncoderKind::Video : OLEncoderKind::Audio;
@@ -78,11 +92,12 @@ void OLCodecTableReader::ReadTables(OLJsonMembers &document)
     ReadOptionLists<OLChannel>(document);
     ReadOptionLists<OLSampleRate>(document);
     document.ForEach("encoders"_L1, [this](const QString &id, const QJsonValue &value) {
-        m_encoders.emplace(id.toStdString(),
-                           ReadEncoder(id.toStdString(), OLJsonMembers(m_path, value)));
+        OLEncoderPointer &encoder = m_encoders[id.toStdString()];
+        encoder = ReadEncoder(id.toStdString(), OLJsonMembers(m_path, value));
     });
     document.ForEach("encoderSets"_L1, [this](const QString &id, const QJsonValue &value) {
-        m_sets.emplace(id.toStdString(), ReadEncoderSet(id.toStdString(), value));
+        OLEncoderSetPointer &set = m_sets[id.toStdString()];
+        set = ReadEncoderSet(id.toStdString(), value);
     });
 }
 
@@ -92,8 +107,8 @@ void OLCodecTableReader::ReadOptionLists(OLJsonMembers &document)
     auto &lists = std::get<ListsById<Option>>(m_lists);
     document.ForEach(OLOptionLayout<Option>::lists,
                      [&](const QString &id, const QJsonValue &value) {
-                         lists.emplace(id.toStdString(),
-                                       ReadOptionList<Option>(id.toStdString(), m_path, value));
+                         OLOptionListPointer<Option> &list = lists[id.toStdString()];
+                         list = ReadOptionList<Option>(id.toStdString(), m_path, value);
                      });
 }
 
@@ -101,29 +116,34 @@ OLEncoderPointer OLCodecTableReader::ReadEncoder(std::string id, OLJsonMembers m
 {
     auto encoder = std::make_shared<OLEncoder>();
     encoder->id = std::move(id);
-    encoder->kind = TakeKind(members);
+    const bool kindIsKnown = m_path.Attempt([&] { encoder->kind = TakeKind(members); });
     encoder->name = members.Text("name"_L1);
     encoder->automatic = members.FlagOr("auto"_L1, false);
+    if (!kindIsKnown)
+        return nullptr;
+    bool complete = true;
     if (!encoder->automatic) {
-        OLForEachOptionType(encoder->kind,
-                            [&]<class Option>() { TakeOptionList<Option>(members, *encoder); });
+        OLForEachOptionType(encoder->kind, [&]<class Option>() {
+            complete = TakeOptionList<Option>(members, *encoder) && complete;
+        });
     }
     members.ExpectNoMore();
-    return encoder;
+    return complete ? encoder : nullptr;
 }
 
 template<class Option>
-void OLCodecTableReader::TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const
+bool OLCodecTableReader::TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const
 {
     using Layout = OLOptionLayout<Option>;
-    if (members.Has(Layout::lists)) {
-        std::get<OLOptionListPointer<Option>>(
-                encoder.lists) = TakeReference(std::get<ListsById<Option>>(m_lists), members,
-                                               Layout::lists);
-    }
-    const int count = encoder.OptionCount<Option>();
+    const bool hasList = members.Has(Layout::lists);
+    auto &list = std::get<OLOptionListPointer<Option>>(encoder.lists);
+    if (hasList)
+        list = TakeReference(std::get<ListsById<Option>>(m_lists), members, Layout::lists);
+    const bool complete = list || !hasList;
+    const int count = complete ? encoder.OptionCount<Option>() : unknownCount;
     encoder.defaults[OLOptionSlot<Option>()] = TakeIndex(members, Layout::index, count > 0 ? 0 : -1,
                                                          count);
+    return complete;
 }
 
 OLEncoderSetPointer OLCodecTableReader::ReadEncoderSet(std::string id,
@@ -133,18 +153,32 @@ OLEncoderSetPointer OLCodecTableReader::ReadEncoderSet(std::string id,
         m_path.Fail("an array of encoder ids is expected");
     auto set = std::make_shared<OLEncoderSet>();
     set->id = std::move(id);
+    OLEncoderPointer known;
     const QJsonArray array = value.toArray();
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(m_path, i);
-        if (!array.at(i).isString())
-            m_path.Fail("the id of an encoder is expected");
-        set->encoders.push_back(Resolve(m_encoders, array.at(i).toString().toStdString(), m_path));
-        if (set->encoders.back()->kind != set->encoders.front()->kind)
-            m_path.Fail("an encoder set is of one kind");
+        OLEncoderPointer &encoder = set->encoders.emplace_back();
+        m_path.Attempt([&] { encoder = EncoderOf(array.at(i), known); });
+        if (encoder && !known)
+            known = encoder;
     }
-    if (!set->encoders.empty())
-        set->kind = set->encoders.front()->kind;
+    if (!set->encoders.empty() && !known)
+        return nullptr;
+    if (known)
+        set->kind = known->kind;
     return set;
+}
+
+// Looks up an encoder of a set; it is of the kind of another one of them, if that is not empty.
+OLEncoderPointer OLCodecTableReader::EncoderOf(const QJsonValue &id,
+                                               const OLEncoderPointer &other) const
+{
+    if (!id.isString())
+        m_path.Fail("the id of an encoder is expected");
+    const OLEncoderPointer &encoder = Resolve(m_encoders, id.toString().toStdString(), m_path);
+    if (encoder && other && encoder->kind != other->kind)
+        m_path.Fail("an encoder set is of one kind");
+    return encoder;
 }
 
 OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind) const
@@ -154,42 +188,54 @@ OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKin
         return {};
     const OLJsonPath::Scope in(m_path, QString(OLKindName(kind)));
     OLJsonMembers members(m_path, value);
-    const OLEncoderSetPointer &set = TakeReference(m_sets, members, "encoders"_L1);
-    if (!set->encoders.empty() && set->kind != kind)
-        m_path.FailAt("encoders"_L1, "the encoder set is of the other kind");
-    const int count = static_cast<int>(set->encoders.size());
+    const OLEncoderSetPointer set = TakeSet(members, kind);
+    const int count = set ? static_cast<int>(set->encoders.size()) : unknownCount;
     const int current = TakeIndex(members, "current"_L1, count > 0 ? 0 : -1, count);
-    OLCodecList list(set, current, ReadChoices(members, *set));
+    OLCodecList list(set, current, ReadChoices(members, set.get(), kind));
     members.ExpectNoMore();
     return list;
 }
 
+OLEncoderSetPointer OLCodecTableReader::TakeSet(OLJsonMembers &members, OLEncoderKind kind) const
+{
+    const OLEncoderSetPointer set = TakeReference(m_sets, members, "encoders"_L1);
+    if (!set || set->encoders.empty() || set->kind == kind)
+        return set;
+    m_path.ReportAt("encoders"_L1, "the encoder set is of the other kind");
+    return nullptr;
+}
+
 std::vector<OLEncoderChoice> OLCodecTableReader::ReadChoices(OLJsonMembers &members,
-                                                             const OLEncoderSet &set) const
+                                                             const OLEncoderSet *set,
+                                                             OLEncoderKind kind) const
 {
     std::vector<OLEncoderChoice> choices;
-    std::vector<bool> chosen(set.encoders.size());
+    std::set<int> chosen;
     members.ForEachElement("choices"_L1, [&](const QJsonValue &value) {
-        choices.push_back(ReadChoice(OLJsonMembers(m_path, value), set));
-        const auto encoder = static_cast<std::size_t>(choices.back().encoder);
-        if (chosen[encoder])
+        choices.push_back(ReadChoice(OLJsonMembers(m_path, value), set, kind));
+        const int encoder = choices.back().encoder;
+        if (encoder >= 0 && !chosen.insert(encoder).second)
             m_path.Fail("there is another choice for this encoder");
-        chosen[encoder] = true;
     });
     std::ranges::sort(choices, {}, &OLEncoderChoice::encoder);
     return choices;
 }
 
-OLEncoderChoice OLCodecTableReader::ReadChoice(OLJsonMembers members, const OLEncoderSet &set) const
+OLEncoderChoice OLCodecTableReader::ReadChoice(OLJsonMembers members, const OLEncoderSet *set,
+                                               OLEncoderKind kind) const
 {
-    OLEncoderChoice choice;
-    choice.encoder = members.Integer("encoder"_L1, 0, static_cast<int>(set.encoders.size()) - 1);
-    const OLEncoder &encoder = *set.encoders[static_cast<std::size_t>(choice.encoder)];
-    choice.options = encoder.defaults;
-    OLForEachOptionType(encoder.kind, [&]<class Option>() {
+    OLEncoderChoice choice { -1, OLNoOptions };
+    const int count = set ? static_cast<int>(set->encoders.size()) : unknownCount;
+    m_path.Attempt([&] { choice.encoder = members.RequiredInteger("encoder"_L1, 0, count - 1); });
+    const OLEncoder *encoder = nullptr;
+    if (set && choice.encoder >= 0)
+        encoder = set->encoders[static_cast<std::size_t>(choice.encoder)].get();
+    if (encoder)
+        choice.options = encoder->defaults;
+    OLForEachOptionType(kind, [&]<class Option>() {
         int &index = choice.options[OLOptionSlot<Option>()];
         index = TakeIndex(members, OLOptionLayout<Option>::index, index,
-                          encoder.OptionCount<Option>());
+                          encoder ? encoder->OptionCount<Option>() : unknownCount);
     });
     members.ExpectNoMore();
     return choice;

@@ -16,6 +16,9 @@ class OLJsonMembers;
 class OLJsonPath;
 
 // Reads the tables of a document and the encoder choices that refer to them. Throws OLJsonFault.
+//
+// Where the path collects faults, an encoder or a set that could not be read whole stands empty
+// under its id: what refers to it is known to be there, but not checked against it.
 class OLCodecTableReader
 {
 public:
@@ -37,12 +40,16 @@ private:
     template<class Option>
     void ReadOptionLists(OLJsonMembers &document);
     template<class Option>
-    void TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const;
+    bool TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const;
 
     OLEncoderPointer ReadEncoder(std::string id, OLJsonMembers members) const;
     OLEncoderSetPointer ReadEncoderSet(std::string id, const QJsonValue &value) const;
-    std::vector<OLEncoderChoice> ReadChoices(OLJsonMembers &members, const OLEncoderSet &set) const;
-    OLEncoderChoice ReadChoice(OLJsonMembers members, const OLEncoderSet &set) const;
+    OLEncoderPointer EncoderOf(const QJsonValue &id, const OLEncoderPointer &other) const;
+    OLEncoderSetPointer TakeSet(OLJsonMembers &members, OLEncoderKind kind) const;
+    std::vector<OLEncoderChoice> ReadChoices(OLJsonMembers &members, const OLEncoderSet *set,
+                                             OLEncoderKind kind) const;
+    OLEncoderChoice ReadChoice(OLJsonMembers members, const OLEncoderSet *set,
+                               OLEncoderKind kind) const;
 
     OLJsonPath &m_path;
     std::tuple<ListsById<OLResolution>, ListsById<OLFrameRate>, ListsById<OLQuality>,

@@ -33,12 +33,26 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::Read(const QJsonValue &documen
     }
 }
 
+std::shared_ptr<OLFormatNode> OLFormatTreeReader::Read(const QJsonValue &document,
+                                                       std::vector<OLJsonFault> &faults)
+{
+    const std::size_t before = faults.size();
+    OLFormatTreeReader reader;
+    reader.m_path.CollectInto(faults);
+    std::shared_ptr<OLFormatNode> root;
+    reader.m_path.Attempt([&] { root = reader.ReadDocument(document); });
+    return faults.size() == before ? root : nullptr;
+}
+
 std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadDocument(const QJsonValue &document)
 {
     OLJsonMembers members(m_path, document);
     m_tables.ReadTables(members);
-    const QJsonValue root = members.Required("root"_L1);
+    QJsonValue root;
+    const bool rooted = m_path.Attempt([&] { root = members.Required("root"_L1); });
     members.ExpectNoMore();
+    if (!rooted)
+        return nullptr;
     const OLJsonPath::Scope in(m_path, u"root"_s);
     return ReadNode(root);
 }
@@ -67,13 +81,13 @@ std::shared_ptr<OLFormatPreset> OLFormatTreeReader::ReadPreset(const QJsonValue 
     OLFormatPreset::Texts texts { members.Text("name"_L1), members.TextOr("description"_L1, ""),
                                   members.TextOr("format"_L1, "") };
     const int faceID = TakeFaceID(members);
-    auto preset = std::make_shared<OLFormatPreset>(std::move(texts), faceID,
-                                                   m_tables.ReadCodecList(members,
-                                                                          OLEncoderKind::Video),
-                                                   m_tables.ReadCodecList(members,
-                                                                          OLEncoderKind::Audio));
+    OLCodecList video;
+    OLCodecList audio;
+    m_path.Attempt([&] { video = m_tables.ReadCodecList(members, OLEncoderKind::Video); });
+    m_path.Attempt([&] { audio = m_tables.ReadCodecList(members, OLEncoderKind::Audio); });
     members.ExpectNoMore();
-    return preset;
+    return std::make_shared<OLFormatPreset>(std::move(texts), faceID, std::move(video),
+                                            std::move(audio));
 }
 
 } // namespace Orlimo

@@ -4,6 +4,7 @@
 #include "OLJsonMembers.h"
 
 #include <memory>
+#include <vector>
 
 class QJsonValue;
 
@@ -20,6 +21,11 @@ public:
     // Empty where the document breaks the layout; then error, where it is not null, says how.
     static std::shared_ptr<OLFormatNode> Read(const QJsonValue &document,
                                               std::shared_ptr<const IOLError> *error);
+
+    // Reads on behind a fault as far as what follows can be judged, and appends every one to
+    // faults. Empty where there is any.
+    static std::shared_ptr<OLFormatNode> Read(const QJsonValue &document,
+                                              std::vector<OLJsonFault> &faults);
 
 private:
     OLFormatTreeReader()

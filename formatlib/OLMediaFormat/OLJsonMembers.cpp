@@ -38,6 +38,16 @@ void OLJsonPath::FailAt(QLatin1StringView member, std::string reason)
     Fail(std::move(reason));
 }
 
+void OLJsonPath::Report(std::string reason) const
+{
+    Attempt([&] { Fail(std::move(reason)); });
+}
+
+void OLJsonPath::ReportAt(QLatin1StringView member, std::string reason)
+{
+    Attempt([&] { FailAt(member, std::move(reason)); });
+}
+
 std::string OLJsonPath::ToPointer() const
 {
     QString pointer;
@@ -68,7 +78,7 @@ QJsonValue OLJsonMembers::Optional(QLatin1StringView name)
 {
     QJsonValue value = m_object.value(name);
     if (!value.isUndefined())
-        ++m_taken;
+        m_taken.append(name);
     return value;
 }
 
@@ -77,12 +87,19 @@ bool OLJsonMembers::Has(QLatin1StringView name) const
     return m_object.contains(name);
 }
 
-std::string OLJsonMembers::Text(QLatin1StringView name)
+std::string OLJsonMembers::RequiredText(QLatin1StringView name)
 {
     const QJsonValue value = Required(name);
     if (!value.isString())
         m_path.FailAt(name, "a text is expected");
     return value.toString().toStdString();
+}
+
+std::string OLJsonMembers::Text(QLatin1StringView name)
+{
+    std::string text;
+    m_path.Attempt([&] { text = RequiredText(name); });
+    return text;
 }
 
 std::string OLJsonMembers::TextOr(QLatin1StringView name, const char *otherwise)
@@ -94,11 +111,11 @@ bool OLJsonMembers::FlagOr(QLatin1StringView name, bool otherwise)
 {
     const QJsonValue value = Optional(name);
     if (!value.isUndefined() && !value.isBool())
-        m_path.FailAt(name, "true or false is expected");
+        m_path.ReportAt(name, "true or false is expected");
     return value.toBool(otherwise);
 }
 
-int OLJsonMembers::Integer(QLatin1StringView name, int minimum, int maximum)
+int OLJsonMembers::RequiredInteger(QLatin1StringView name, int minimum, int maximum)
 {
     constexpr qint64 none = std::numeric_limits<qint64>::min();
     const qint64 number = Required(name).toInteger(none);
@@ -110,6 +127,13 @@ int OLJsonMembers::Integer(QLatin1StringView name, int minimum, int maximum)
     return static_cast<int>(number);
 }
 
+int OLJsonMembers::Integer(QLatin1StringView name, int minimum, int maximum)
+{
+    int number = minimum;
+    m_path.Attempt([&] { number = RequiredInteger(name, minimum, maximum); });
+    return number;
+}
+
 int OLJsonMembers::IntegerOr(QLatin1StringView name, int otherwise, int minimum, int maximum)
 {
     return Has(name) ? Integer(name, minimum, maximum) : otherwise;
@@ -117,15 +141,23 @@ int OLJsonMembers::IntegerOr(QLatin1StringView name, int otherwise, int minimum,
 
 void OLJsonMembers::ExpectNoMore() const
 {
-    if (m_taken < m_object.size())
+    if (m_taken.size() >= m_object.size())
+        return;
+    if (!m_path.Collects())
         m_path.Fail("there is a member that this layout does not know");
+    for (const QString &name : m_object.keys()) {
+        if (m_taken.contains(name))
+            continue;
+        const OLJsonPath::Scope at(m_path, name);
+        m_path.Report("this layout does not know the member");
+    }
 }
 
 QJsonObject OLJsonMembers::ObjectOrNone(QLatin1StringView name)
 {
     const QJsonValue value = Optional(name);
     if (!value.isUndefined() && !value.isObject())
-        m_path.FailAt(name, "an object is expected");
+        m_path.ReportAt(name, "an object is expected");
     return value.toObject();
 }
 
@@ -133,7 +165,7 @@ QJsonArray OLJsonMembers::ArrayOrNone(QLatin1StringView name)
 {
     const QJsonValue value = Optional(name);
     if (!value.isUndefined() && !value.isArray())
-        m_path.FailAt(name, "an array is expected");
+        m_path.ReportAt(name, "an array is expected");
     return value.toArray();
 }
 

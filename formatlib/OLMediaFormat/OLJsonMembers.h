@@ -4,21 +4,24 @@
 #include <QJsonObject>
 #include <QLatin1StringView>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace Orlimo {
 
-// Thrown inside the readers where a document breaks its layout; never leaves them.
+// Where and how a document breaks its layout. Thrown inside the readers; never leaves them.
 struct OLJsonFault
 {
     std::string pointer; // RFC 6901
     std::string reason;
 };
 
-// The way from the document to the value that is being read.
+// The way from the document to the value that is being read, and what becomes of a fault there: the
+// first one ends the reading unless faults are collected.
 class OLJsonPath
 {
 public:
@@ -37,17 +40,33 @@ public:
         OLJsonPath &m_path;
     };
 
+    // From now on a fault is appended to faults, which outlives the path, and the reading goes on.
+    void CollectInto(std::vector<OLJsonFault> &faults) { m_faults = &faults; }
+    bool Collects() const { return m_faults; }
+
+    // Ends the attempt, or the whole reading where there is none.
     [[noreturn]] void Fail(std::string reason) const;
     [[noreturn]] void FailAt(QLatin1StringView member, std::string reason);
+
+    // As above, but returns where faults are collected.
+    void Report(std::string reason) const;
+    void ReportAt(QLatin1StringView member, std::string reason);
+
+    // Calls read() and returns whether it came to its end. It always does where faults are not
+    // collected, since a fault ends more than the attempt.
+    template<class Reading>
+    bool Attempt(Reading read) const;
 
 private:
     std::string ToPointer() const;
 
     std::vector<Step> m_steps;
+    std::vector<OLJsonFault> *m_faults = nullptr;
 };
 
 // The members of one JSON object, each of which must be asked for: ExpectNoMore() fails where the
-// object has a member that was not.
+// object has a member that was not. Where faults are collected, a value of the wrong type or range
+// is reported and read as the nearest harmless one: an empty text, false, the minimum.
 class OLJsonMembers
 {
 public:
@@ -56,6 +75,9 @@ public:
     QJsonValue Required(QLatin1StringView name);
     QJsonValue Optional(QLatin1StringView name); // undefined where it is absent
     bool Has(QLatin1StringView name) const;
+
+    std::string RequiredText(QLatin1StringView name); // fails in any case
+    int RequiredInteger(QLatin1StringView name, int minimum, int maximum);
 
     std::string Text(QLatin1StringView name);
     std::string TextOr(QLatin1StringView name, const char *otherwise);
@@ -81,8 +103,24 @@ private:
 
     OLJsonPath &m_path;
     QJsonObject m_object;
-    qsizetype m_taken = 0;
+    QVarLengthArray<QLatin1StringView, 16> m_taken;
 };
+
+template<class Reading>
+bool OLJsonPath::Attempt(Reading read) const
+{
+    if (!m_faults) {
+        read();
+        return true;
+    }
+    try {
+        read();
+        return true;
+    } catch (OLJsonFault &fault) {
+        m_faults->push_back(std::move(fault));
+        return false;
+    }
+}
 
 template<class Handler>
 void OLJsonMembers::ForEach(QLatin1StringView name, Handler handle)
@@ -91,7 +129,7 @@ void OLJsonMembers::ForEach(QLatin1StringView name, Handler handle)
     const OLJsonPath::Scope in(m_path, QString(name));
     for (auto member = object.begin(); member != object.end(); ++member) {
         const OLJsonPath::Scope at(m_path, member.key());
-        handle(member.key(), QJsonValue(member.value()));
+        m_path.Attempt([&] { handle(member.key(), QJsonValue(member.value())); });
     }
 }
 
@@ -102,7 +140,7 @@ void OLJsonMembers::ForEachElement(QLatin1StringView name, Handler handle)
     const OLJsonPath::Scope in(m_path, QString(name));
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(m_path, i);
-        handle(array.at(i));
+        m_path.Attempt([&] { handle(array.at(i)); });
     }
 }
 

@@ -76,7 +76,7 @@ struct OLOptionLayout<OLQuality>
     static void Read(OLJsonMembers &members, OLQuality &option)
     {
         if (members.Has(constantRateFactor) + members.Has(bitRate) + members.Has(bitDepth) > 1)
-            members.Path().Fail("a quality has at most one of crf, bitRate and bitDepth");
+            members.Path().Report("a quality has at most one of crf, bitRate and bitDepth");
         option.constantRateFactor = members.IntegerOr(constantRateFactor, -1, 0, OLMaximumInteger);
         option.bitRate = members.IntegerOr(bitRate, 0, 1, OLMaximumInteger);
         option.bitDepth = members.IntegerOr(bitDepth, 0, 1, OLMaximumInteger);
