@@ -1,15 +1,19 @@
-# shellcheck shell=bash disable=SC2034
+# shellcheck shell=bash disable=SC2034,SC2154
 # A user of the example host on a virtual screen: real mouse and key events, and what there is to see.
 #
-# Everything waits for a condition, and the first one that does not come about ends the demo with the
-# name of the step. The host's widget locator says where the widgets are; it never acts on them.
+# Everything waits for a condition, and the first one that does not come about ends the script with
+# the name of the step. The host's widget locator says where the widgets are; it never acts on them.
 
 screen_width=1280
 screen_height=800
-patience=20 # seconds
+free_area=        # "x y width height" of what the popup's screen leaves to windows; all, if empty
+scale_percent=100 # device pixels in 100 pixels of the host, in which the locator answers
+patience=20       # seconds
 
-# Set by start_driver: the host to drive, where its output, its settings and the pictures go.
-host_program=
+build=$root/build/demo-build
+host_program=$build/examples/host/examplehost
+
+# Set by start_driver: where the output of the host, its settings and the pictures go.
 work=
 settings=
 pictures=
@@ -51,6 +55,13 @@ start_album() {
 
 # finish [CHOICE]: ends the step, in which the host must have printed this choice and no other.
 finish() {
+    expect_choice "$@"
+    take_picture "$pictures/$step_name.png"
+    printf '%-32s %s\n' "$step_name" "${1:-}"
+}
+
+# expect_choice [CHOICE]: that the host has printed since the last one; without it, none.
+expect_choice() {
     if (($#)); then
         expected+=("$1")
         wait_until "\"$1\" is printed" has_printed "${#expected[@]}"
@@ -58,12 +69,10 @@ finish() {
     drain
     [[ ${choices[*]} == "${expected[*]}" ]] \
         || fail "expected ${1:-no choice}, the host printed: ${choices[*]:${#expected[@]} - $#}"
-    take_picture "$pictures/$step_name.png"
-    printf '%-32s %s\n' "$step_name" "${1:-}"
 }
 
 fail() {
-    printf 'demo: step %s: %s\n' "$step_name" "$*" >&2
+    printf '%s: step %s: %s\n' "${0##*/}" "$step_name" "$*" >&2
     import -silent -window root "$pictures/$step_name-failed.png" || true
     [[ ! -s $work/host.log ]] || sed 's/^/host: /' "$work/host.log" >&2
     exit 1
@@ -81,10 +90,9 @@ wait_until() {
 
 # --- The screen --------------------------------------------------------------------------------
 
-# start_driver HOST PICTURES: makes the virtual screen with a window manager.
+# start_driver PICTURES: makes the virtual screen with a window manager.
 start_driver() {
-    host_program=$1
-    pictures=$2
+    pictures=$1
     work=$(mktemp -d)
     settings=$work/settings
     trap stop_driver EXIT
@@ -94,7 +102,10 @@ start_driver() {
     unset LANGUAGE WAYLAND_DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP DBUS_SESSION_BUS_ADDRESS "${!QT_@}"
     export LC_ALL=C.UTF-8
     export XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
+    start_screen
+}
 
+start_screen() {
     local server number
     exec {server}< <(exec Xvfb -displayfd 1 -screen 0 "${screen_width}x${screen_height}x24" \
         -nolisten tcp -noreset 2>"$work/server.log")
@@ -104,21 +115,28 @@ start_driver() {
     openbox --sm-disable >"$work/openbox.log" 2>&1 &
     helpers+=($!)
     wait_until "the window manager runs" has_window_manager
-    say "Virtual screen $DISPLAY"
+    say "Virtual screen $DISPLAY, $screen_width x $screen_height"
 }
 
 has_window_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# shellcheck disable=SC2317 # called by the trap
-stop_driver() {
+# Ends the virtual screen and everything on it.
+stop_screen() {
     local pid
     [[ -z $host_pid ]] || kill "$host_pid" 2>/dev/null || true
     for pid in "${helpers[@]}"; do
         kill "$pid" 2>/dev/null || true
     done
     wait
+    host_pid=
+    helpers=()
+}
+
+# shellcheck disable=SC2317 # called by the trap
+stop_driver() {
+    stop_screen
     rm -rf "$work"
 }
 
@@ -133,31 +151,41 @@ has_other_window() {
     xdotool search --onlyvisible --name 'Event Tester' >/dev/null 2>&1
 }
 
-# take_picture FILE: of the whole screen, once it stands still.
+# take_picture FILE [X Y WIDTH HEIGHT]: of this part of the screen or the whole, once it stands still.
 take_picture() {
-    wait_until "the screen stands still" stands_still
-    mv "$work/now.png" "$1"
+    local file=$1 part=${screen_width}x$screen_height+0+0
+    shift
+    (($# == 0)) || part=$(device_area "$@")
+    wait_until "the screen stands still" stands_still "$part"
+    convert "$work/now.ppm" "$file"
 }
 
 stands_still() {
-    import -silent -window root "$work/before.png"
-    import -silent -window root "$work/now.png"
-    [[ $(identify -format '%#' "$work/before.png") == $(identify -format '%#' "$work/now.png") ]]
+    import -silent -window root -crop "$1" "$work/before.ppm"
+    import -silent -window root -crop "$1" "$work/now.ppm"
+    cmp -s "$work/before.ppm" "$work/now.ppm"
 }
 
 # colours X Y WIDTH HEIGHT: how many different ones this part of the screen has.
 colours() {
-    import -silent -window root -crop "$3x$4+$1+$2" +repage "$work/part.png"
+    import -silent -window root -crop "$(device_area "$@")" +repage "$work/part.png"
     identify -format '%k' "$work/part.png"
 }
 
-# has_colour X Y COLOUR: whether the pixel has the colour, given as 188,188,188.
+# has_colour X Y COLOUR: whether the pixel of the device has the colour, given as 188,188,188.
 has_colour() {
     import -silent -window root -crop "1x1+$1+$2" +repage -depth 8 "rgb:$work/pixel"
     [[ $(od -An -tu1 "$work/pixel" | xargs | tr ' ' ,) == "$3" ]]
 }
 
 # --- The host ----------------------------------------------------------------------------------
+
+# build_host PACKAGE...
+build_host() {
+    need_packages "$@"
+    cmake --preset dev -B "$build" -DBUILD_TESTING=OFF
+    cmake --build "$build" --target examplehost
+}
 
 # start_host [LANGUAGE]
 start_host() {
@@ -183,11 +211,24 @@ close_host() {
     exec {host_in}>&- {host_out}<&-
 }
 
+# move_host X Y: by the window manager.
+move_host() {
+    xdotool search --onlyvisible --name '^Example Host$' windowmove -- \
+        "$(device_pixels "$1")" "$(device_pixels "$2")"
+    wait_until "the host's window has moved" is_near host "$1" "$2"
+}
+
+# The frame of the window manager lies between the two corners.
+is_near() {
+    place "$1"
+    ((x >= $2 && x - $2 < 40 && y >= $3 && y - $3 < 40))
+}
+
 # ask QUESTION PATH: sets answer, and takes note of the choices that were printed before it.
 ask() {
     local line
     printf '%s\n' "$*" >&"$host_in" || fail "the host is gone"
-    while read -r -t "$patience" line <&"$host_out"; do
+    while IFS= read -r -t "$patience" line <&"$host_out"; do
         if [[ $line == '='* ]]; then
             answer=${line#= }
             return
@@ -286,29 +327,50 @@ has_colours() {
 }
 
 # expect_popup_beside X Y WIDTH HEIGHT: where the popup opens for such a control. In the left half of
-# the screen it begins at the control's left edge, in the right half it ends left of the control.
+# the area that the screen leaves to windows it begins at the control's left edge, in the right half
+# it ends the control's width left of it; in the upper half it begins at the control's top edge, in
+# the lower half it ends there. The halves are told by the size of the area alone.
 expect_popup_beside() {
-    local left=$1 top=$2 bottom=$(($2 + $4 - 1)) popup_x popup_y
-    if ((2 * left <= screen_width)); then
-        popup_x=$((left + 800 > screen_width - 1 ? screen_width - 1 - 800 : left))
+    local left=$1 top=$2 bottom=$(($2 + $4 - 1)) right popup_x popup_y
+    local area_x area_y area_width area_height
+    read -r area_x area_y area_width area_height <<<"${free_area:-0 0 $screen_width $screen_height}"
+    right=$((area_x + area_width - 1))
+    if ((2 * left <= area_width)); then
+        popup_x=$((left + 800 > right ? right - 800 : left))
     else
         popup_x=$((left - $3 - 800 < 0 ? 0 : left - $3 - 800))
     fi
-    if ((2 * bottom > screen_height)); then
+    if ((2 * bottom > area_height)); then
         popup_y=$((top - 600 < 0 ? 0 : top - 600))
     else
-        popup_y=$((bottom + 600 >= screen_height ? screen_height - 600 : top - 1))
+        popup_y=$((bottom + 600 >= area_height ? area_height - 600 : top - 1))
     fi
     expect_place popup "$popup_x" "$popup_y" 800 600
 }
 
 # --- Mouse and keys ----------------------------------------------------------------------------
 
+# device_pixels LENGTH: rounded as the host does it.
+device_pixels() {
+    echo $((($1 * scale_percent + 50) / 100))
+}
+
+# device_area X Y WIDTH HEIGHT
+device_area() {
+    printf '%dx%d+%d+%d\n' "$(device_pixels "$3")" "$(device_pixels "$4")" \
+        "$(device_pixels "$1")" "$(device_pixels "$2")"
+}
+
+# move_mouse X Y
+move_mouse() {
+    xdotool mousemove "$(device_pixels "$1")" "$(device_pixels "$2")"
+}
+
 # hover PATH
 hover() {
     expect_shown "$1"
     place "$1"
-    xdotool mousemove $((x + width / 2)) $((y + height / 2))
+    move_mouse $((x + width / 2)) $((y + height / 2))
 }
 
 # click PATH
@@ -320,14 +382,15 @@ click() {
 # click_title WINDOW: in the title bar that the window manager gives the window.
 click_title() {
     place "$1"
-    xdotool mousemove $((x + width / 4)) $((y - 10)) click 1
+    xdotool mousemove "$(device_pixels $((x + width / 4)))" $(($(device_pixels "$y") - 10)) click 1
 }
 
 # click_row LIST TEXT: at the left end of the row, away from its action icon.
 click_row() {
     find_row "$@"
     place "$row_path"
-    xdotool mousemove $((x + 20)) $((y + height / 2)) click 1
+    move_mouse $((x + 20)) $((y + height / 2))
+    xdotool click 1
 }
 
 # find_row LIST TEXT: sets row_path and action_path of the row of that text.

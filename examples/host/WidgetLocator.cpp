@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTabBar>
 #include <QTableWidget>
 #include <QWidget>
@@ -51,21 +52,56 @@ MaybePlace PlaceOf(const QWidget *widget)
     return Place { OnScreen(*widget, widget->rect()), TextOf(*widget) };
 }
 
-// The input dialog has no object name.
-const QWidget *FindWindow(const QString &name)
+const QHash<QString, QString> &WindowNames()
 {
     static const QHash<QString, QString> names { { u"host"_s, u"HostWindowClass"_s },
                                                  { u"output"_s, u"OutputDialogClass"_s },
                                                  { u"popup"_s, u"RPFmtSelectionDlgClass"_s },
                                                  { u"dialog"_s, u"RPFmtEditingDlgClass"_s },
                                                  { u"prompt"_s, u"QInputDialog"_s } };
-    const QString known = names.value(name);
+    return names;
+}
+
+// The input dialog has no object name.
+bool IsNamed(const QWidget &window, const QString &known)
+{
+    return window.objectName() == known || window.inherits(known.toLatin1());
+}
+
+const QWidget *FindWindow(const QString &name)
+{
+    const QString known = WindowNames().value(name);
     for (const QWidget *window : QApplication::topLevelWidgets()) {
-        const bool named = window->objectName() == known || window->inherits(known.toLatin1());
-        if (!known.isEmpty() && named && window->isVisible())
+        if (!known.isEmpty() && IsNamed(*window, known) && window->isVisible())
             return window;
     }
     return nullptr;
+}
+
+QString ClassOf(const QWidget &widget)
+{
+    return QString::fromLatin1(widget.metaObject()->className());
+}
+
+QString NameOfWindow(const QWidget &window)
+{
+    for (auto name = WindowNames().cbegin(); name != WindowNames().cend(); ++name) {
+        if (IsNamed(window, name.value()))
+            return name.key();
+    }
+    return ClassOf(window);
+}
+
+QString PathOf(const QWidget &widget)
+{
+    const QString window = NameOfWindow(*widget.window());
+    if (widget.isWindow())
+        return window;
+    if (!widget.objectName().isEmpty())
+        return window + u'/' + widget.objectName();
+    if (qobject_cast<const QLineEdit *>(&widget))
+        return window + u"/search"_s;
+    return window + u'/' + ClassOf(widget);
 }
 
 // Several pages may have a widget of the same name, of which one is shown. Without a name any
@@ -191,16 +227,46 @@ MaybePlace Find(const QStringList &path)
     return window ? FindInWindow(*window, path) : MaybePlace();
 }
 
-QString Answer(const QString &question, const MaybePlace &place)
+QString Written(const QRect &area)
+{
+    return u"%1 %2 %3 %4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+}
+
+QString AnswerOnFocus()
+{
+    const QWidget *widget = QApplication::focusWidget();
+    return widget ? PathOf(*widget) : u"none"_s;
+}
+
+QString AnswerOnMenu()
+{
+    return QApplication::activePopupWidget() ? u"yes"_s : u"no"_s;
+}
+
+QString AnswerOnArea(const QString &windowName)
+{
+    const QWidget *window = FindWindow(windowName);
+    return window ? Written(window->screen()->availableGeometry()) : u"none"_s;
+}
+
+QString AnswerOnPlace(const QString &question, const MaybePlace &place)
 {
     if (question == "visible"_L1)
         return place ? u"yes"_s : u"no"_s;
     if (!place)
         return u"none"_s;
-    if (question == "text"_L1)
-        return place->text;
-    const QRect &area = place->area;
-    return u"%1 %2 %3 %4"_s.arg(area.x()).arg(area.y()).arg(area.width()).arg(area.height());
+    return question == "text"_L1 ? place->text : Written(place->area);
+}
+
+QString Answer(const QString &question, const QString &path)
+{
+    if (question == "focus"_L1)
+        return AnswerOnFocus();
+    if (question == "menu"_L1)
+        return AnswerOnMenu();
+    if (question == "area"_L1)
+        return AnswerOnArea(path);
+    return AnswerOnPlace(question, Find(path.split(u'/')));
 }
 
 } // namespace
@@ -224,7 +290,7 @@ void WidgetLocator::AnswerLine()
     const QString request = QString::fromUtf8(line).trimmed();
     const QString question = request.section(u' ', 0, 0);
     const QString path = request.section(u' ', 1);
-    std::printf("= %s\n", qUtf8Printable(Answer(question, Find(path.split(u'/')))));
+    std::printf("= %s\n", qUtf8Printable(Answer(question, path)));
     std::fflush(stdout);
 }
 

@@ -12,6 +12,9 @@ namespace Host {
 //   where PATH     "= x y width height" on the screen, or "= none"
 //   visible PATH   "= yes" or "= no"
 //   text PATH      "= " and the text, or "= none"
+//   focus          "= " and the path of the widget that has the focus, or "= none"
+//   menu           "= yes" or "= no": whether a menu or the list of a combo box is open
+//   area WINDOW    "= x y width height" of what the window's screen leaves to windows, or "= none"
 //
 //   PATH is a window (host, output, popup, dialog, prompt) or one of
 //   button/NAME           the button btnName in any window
