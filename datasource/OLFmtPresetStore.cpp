@@ -15,6 +15,8 @@ namespace Orlimo {
 
 namespace {
 
+constexpr int mostValuesAside = 9;
+
 std::shared_ptr<IOLFormatNode> BuildNode(const char *name, const char *description, int faceID)
 {
     auto node = IOLFormatNode::MallocFormatNode(std::shared_ptr<IOLFormatNode>());
@@ -33,17 +35,18 @@ std::shared_ptr<IOLFormatNode> ReadNode(const std::string &encoded)
             std::shared_ptr<const IOLJsonValue>(IOLJsonReader::ReadJsonString(text, nullptr)));
 }
 
-// Under a key that is free, or that holds the value already.
+// Under a key that is free, or that holds the value already. Where no key is free any more, the
+// last takes the newest value.
 void KeepAside(const std::string &value, const std::string &key)
 {
     const auto settings = IOLAppSettings::Shared();
     std::string aside = "unreadable/" + key;
     std::string kept = settings->Value(aside);
-    for (int i = 2; !kept.empty() && kept != value; ++i) {
+    for (int i = 2; i <= mostValuesAside && !kept.empty() && kept != value; ++i) {
         aside = "unreadable/" + key + '_' + std::to_string(i);
         kept = settings->Value(aside);
     }
-    if (kept.empty())
+    if (kept != value)
         settings->SetValue(value, aside);
 }
 

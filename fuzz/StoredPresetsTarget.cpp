@@ -10,6 +10,9 @@
 #include "OLFmtPresetDataSource.h"
 #include "OLFmtPresetStore.h"
 
+#include <QCoreApplication>
+#include <QSettings>
+
 using Orlimo::IOLAppSettings;
 using Orlimo::IOLBase64Codec;
 using Orlimo::LoadPresetNode;
@@ -30,8 +33,12 @@ std::string StoredValue(QByteArrayView input)
     return input.startsWith('r') ? value : IOLBase64Codec::Encode(value);
 }
 
+// Nothing that an earlier input has left is in the settings.
 void Store(const std::string &value)
 {
+    QSettings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
+              QCoreApplication::applicationName())
+            .clear();
     const auto settings = IOLAppSettings::Shared();
     settings->SetValue(value, OLRecentPresetsKey);
     settings->SetValue(value, OLCustomPresetsKey);

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void unusableValuesGiveFreshTreesAndStayAsTheyAre();
     void theNextSaveKeepsAnUnusableValueAside();
     void everyUnusableValueIsKept();
+    void ofManyUnusableValuesTheFirstAndTheNewestAreKept();
     void aUsableValueIsNotKeptAside();
     void aFileDamagedWhileTheProgramRunsLosesNoChoice_data();
     void aFileDamagedWhileTheProgramRunsLosesNoChoice();
@@ -121,6 +122,19 @@ void tst_OLFmtPresetStore_Unusable::everyUnusableValueIsKept()
     QCOMPARE(Stored("unreadable/custom_format_preset"_L1), QByteArray("first"));
     QCOMPARE(Stored("unreadable/custom_format_preset_2"_L1), QByteArray("second"));
     QCOMPARE(Stored("unreadable/custom_format_preset_3"_L1), QByteArray());
+}
+
+void tst_OLFmtPresetStore_Unusable::ofManyUnusableValuesTheFirstAndTheNewestAreKept()
+{
+    for (int i = 1; i <= 12; ++i) {
+        Store("garbage " + QByteArray::number(i));
+        restart();
+        m_dataSource->SaveRecentPresets();
+    }
+    QCOMPARE(Stored("unreadable/recent_format_preset"_L1), QByteArray("garbage 1"));
+    QCOMPARE(Stored("unreadable/recent_format_preset_8"_L1), QByteArray("garbage 8"));
+    QCOMPARE(Stored("unreadable/recent_format_preset_9"_L1), QByteArray("garbage 12"));
+    QCOMPARE(Stored("unreadable/recent_format_preset_10"_L1), QByteArray());
 }
 
 void tst_OLFmtPresetStore_Unusable::aUsableValueIsNotKeptAside()
