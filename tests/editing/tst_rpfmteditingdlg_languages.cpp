@@ -3,13 +3,13 @@
 #include "EditingDriver.h"
 #include "Languages.h"
 #include "SampleFormat.h"
+#include "TextFit.h"
 
 #include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
 #include "OLFormatText.h"
 
 #include <QFile>
-#include <QFontDatabase>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -28,11 +28,6 @@ constexpr int comboMargin = 1; // left of a combo box's text
 
 const QStringList leftLabels { QStringLiteral("lblVEncoder"), QStringLiteral("lblFrameRate"),
                                QStringLiteral("lblAEncoder"), QStringLiteral("lblSampleRate") };
-
-int WidthOf(const QWidget &widget, const QString &text)
-{
-    return widget.fontMetrics().horizontalAdvance(text);
-}
 
 int RoomForText(const QComboBox &combo)
 {
@@ -103,8 +98,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY2(!QFontDatabase::families(QFontDatabase::Japanese).isEmpty(),
-                 "there is no font to measure Japanese texts with");
+        QVERIFY2(HasJapaneseFont(), "there is no font to measure Japanese texts with");
     }
 
     void labelsShowTheirWholeTextInColumnsOfTheSameWidth_data() { AddLanguageRows(AllLanguages()); }

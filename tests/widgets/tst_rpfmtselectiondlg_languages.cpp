@@ -3,6 +3,7 @@
 #include "RowClicks.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
+#include "TextFit.h"
 
 #include "IOLFmtPresetDataSource.h"
 #include "IOLFmtPresetRecentItem.h"
@@ -12,7 +13,6 @@
 #include "RPFmtItemGeometry.h"
 #include "RPFmtSelectionDlg.h"
 
-#include <QFontDatabase>
 #include <QStyleOptionTab>
 #include <QTabBar>
 #include <QToolButton>
@@ -37,11 +37,6 @@ void LoadExample()
     const auto dataSource = IOLFmtPresetDataSource::Shared();
     dataSource->AsyncLoadExternalDataSource(description.toStdString(), [] {});
     dataSource->WaitForLoadingComplete();
-}
-
-int WidthOf(const QWidget &widget, const QString &text)
-{
-    return widget.fontMetrics().horizontalAdvance(text);
 }
 
 // Between the buttons on both sides, the magnifier and the clear button, with the margins that a
@@ -146,8 +141,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY2(!QFontDatabase::families(QFontDatabase::Japanese).isEmpty(),
-                 "there is no font to measure Japanese texts with");
+        QVERIFY2(HasJapaneseFont(), "there is no font to measure Japanese texts with");
         LoadExample();
     }
 
