@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <numeric>
 #include <vector>
 
 using Orlimo::IOLArtworkImageGroup;
@@ -32,10 +31,9 @@ using SizesByFace = std::map<int, std::vector<QSize>>;
 constexpr qsizetype headerSize = 12;
 constexpr qsizetype recordSize = 16;
 
-// A view asks for the icons that it shows, not for every one of a file: here, for as many pixels as
-// the images of one face id may have, and for no more than a long list has rows.
+// A view asks for the icons that it shows, not for every one of a file: here, for no more than a
+// long list has rows.
 constexpr int facesOfView = 500;
-constexpr qint64 pixelsOfView = qint64(32) * 1024 * 1024;
 
 template<class Number>
 Number NumberAt(QByteArrayView bytes, qsizetype offset)
@@ -91,13 +89,6 @@ void RequireOnlySizes(const QIcon &icon, const std::vector<QSize> &sizes)
     }
 }
 
-qint64 PixelsOf(const std::vector<QSize> &sizes)
-{
-    return std::accumulate(sizes.begin(), sizes.end(), qint64(0), [](qint64 sum, QSize size) {
-        return sum + qint64(size.width()) * size.height();
-    });
-}
-
 void RequireNoIconFor(const IOLArtworkImageMgr &manager, const SizesByFace &table, int faceID)
 {
     Require(table.contains(faceID) || !manager.ArtworkGroup(faceID),
@@ -115,10 +106,8 @@ void Artwork(QByteArrayView input)
     for (const int faceID : { 0, 1, 2, 1001, std::numeric_limits<int>::max() })
         RequireNoIconFor(*manager, table, faceID);
     int faces = 0;
-    qint64 pixels = 0;
     for (const auto &[faceID, sizes] : table) {
-        pixels += PixelsOf(sizes);
-        if (++faces > facesOfView || pixels > pixelsOfView)
+        if (++faces > facesOfView)
             break;
         RequireNoIconFor(*manager, table, faceID ^ 1);
         const std::shared_ptr<const IOLArtworkImageGroup> group = manager->ArtworkGroup(faceID);

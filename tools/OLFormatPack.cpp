@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -67,12 +68,10 @@ QString PackArtwork(const QString &folder, const QString &artworkFile)
     }
     if (images.empty())
         return folder + u": there are no PNG files"_s;
-    const auto artwork = OLArtworkFile::FromImages(std::move(images));
+    std::string reason;
+    const auto artwork = OLArtworkFile::FromImages(std::move(images), reason);
     if (!artwork)
-        return folder
-                + u": two images have the same face id and size, a face id has more than 32 "
-                  u"images, or one is "
-                  "larger than 1024"_s;
+        return folder + u": "_s + QString::fromStdString(reason);
     return WriteFile(artworkFile, artwork->ToBytes());
 }
 

@@ -7,6 +7,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <numeric>
 #include <tuple>
 #include <utility>
 
@@ -23,7 +24,10 @@ constexpr qsizetype recordSize = 16; // face id, width, height, offset, length
 constexpr int maximumSide = 1024;
 constexpr quint32 maximumImages = 65536;
 constexpr std::size_t maximumImagesOfFace = 32;
+constexpr qint64 maximumPixels = qint64(32) * maximumSide * maximumSide;
 constexpr qint64 maximumFileSize = qint64(256) << 20;
+
+constexpr char tooManyImages[] = "there are more than 65,536 images";
 
 template<class Number>
 Number NumberAt(const QByteArray &bytes, qsizetype offset)
@@ -59,6 +63,31 @@ bool SidesAreValid(QSize size)
     return valid(size.width()) && valid(size.height());
 }
 
+qint64 PixelsOf(const std::vector<OLArtworkImage> &images)
+{
+    return std::accumulate(images.begin(), images.end(), qint64(0),
+                           [](qint64 pixels, const OLArtworkImage &image) {
+                               return pixels + qint64(image.size.width()) * image.size.height();
+                           });
+}
+
+// Returns the reason for which the images, ordered by face id and size, make no artwork file, or
+// null.
+const char *FaultOfImages(const std::vector<OLArtworkImage> &images)
+{
+    if (images.size() > maximumImages)
+        return tooManyImages;
+    if (!std::ranges::all_of(images, SidesAreValid, &OLArtworkImage::size))
+        return "an image is wider or higher than 1,024 pixels";
+    if (std::ranges::adjacent_find(images, {}, OrderOf) != images.end())
+        return "two images have the same face id and size";
+    if (!FacesAreValid(images))
+        return "a face id has more than 32 images";
+    if (PixelsOf(images) > maximumPixels)
+        return "the images have more than 33,554,432 pixels together";
+    return nullptr;
+}
+
 // Returns the reason for which the header is not that of an artwork file, or null.
 const char *FaultOfHeader(const QByteArray &bytes)
 {
@@ -68,7 +97,7 @@ const char *FaultOfHeader(const QByteArray &bytes)
         return "an artwork file of an unknown version";
     const auto count = NumberAt<quint32>(bytes, 8);
     if (count > maximumImages)
-        return "there are more than 65,536 images";
+        return tooManyImages;
     const qsizetype records = (bytes.size() - headerSize) / recordSize;
     return count > static_cast<quint64>(records) ? "the table is cut short" : nullptr;
 }
@@ -107,13 +136,14 @@ std::optional<QByteArray> ReadFile(const std::string &path, std::string &reason)
 
 } // namespace
 
-std::optional<OLArtworkFile> OLArtworkFile::FromImages(std::vector<OLArtworkImage> images)
+std::optional<OLArtworkFile> OLArtworkFile::FromImages(std::vector<OLArtworkImage> images,
+                                                       std::string &reason)
 {
     std::ranges::sort(images, {}, OrderOf);
-    const bool twice = std::ranges::adjacent_find(images, {}, OrderOf) != images.end();
-    const bool sidesAreValid = std::ranges::all_of(images, SidesAreValid, &OLArtworkImage::size);
-    if (twice || !sidesAreValid || !FacesAreValid(images))
+    if (const char *fault = FaultOfImages(images)) {
+        reason = fault;
         return std::nullopt;
+    }
     OLArtworkFile file;
     file.m_images = std::move(images);
     return file;
@@ -144,9 +174,9 @@ std::optional<OLArtworkFile> OLArtworkFile::Read(const std::string &path, ErrorP
         images.push_back(std::move(*image));
     }
 
-    auto file = FromImages(std::move(images));
+    auto file = FromImages(std::move(images), reason);
     if (!file)
-        return fail({}, "two images have the same face id and size, or a face id has more than 32");
+        return fail({}, reason);
     file->m_bytes = *bytes;
     return file;
 }

@@ -25,9 +25,10 @@ struct OLArtworkImage
 class OLArtworkFile
 {
 public:
-    // The images ordered by face id and size. No value where two images have the same of both,
-    // where a face id has more than 32, or where a side has not 1 to 1,024 pixels.
-    static std::optional<OLArtworkFile> FromImages(std::vector<OLArtworkImage> images);
+    // The images ordered by face id and size. No value where they break a rule of the layout; then
+    // reason says which.
+    static std::optional<OLArtworkFile> FromImages(std::vector<OLArtworkImage> images,
+                                                   std::string &reason);
 
     // Checks the table, decodes nothing. No value where the file cannot be read or breaks the
     // layout; then error, where it is not null, says why.

@@ -88,6 +88,8 @@ private Q_SLOTS:
         QVERIFY(Open(Test::ArtworkTable(images)));
     }
 
+    void allImagesMayHave33554432Pixels() { QVERIFY(Open(Test::ArtworkTable(LargestImages()))); }
+
     void imagesMayShareTheirBytes()
     {
         const ManagerPointer manager = Open(
@@ -129,7 +131,10 @@ private Q_SLOTS:
         for (quint16 side = 1; side <= 33; ++side)
             crowd.append({ 7, side, side, 12, 1 });
         QTest::newRow("33 images of one face id")
-                << Test::ArtworkTable(crowd) << QByteArray("more than 32");
+                << Test::ArtworkTable(crowd) << QByteArray("a face id has more than 32");
+        QTest::newRow("one pixel too many")
+                << Test::ArtworkTable(LargestImages() << Test::ArtworkRecord { 32, 1, 1, 12, 1 })
+                << QByteArray("more than 33,554,432 pixels");
     }
 
     void aFaultyFileIsRefused() { ExpectFault({}); }
@@ -228,6 +233,15 @@ private Q_SLOTS:
     }
 
 private:
+    // As many pixels as a file may have, one image for each of 32 face ids.
+    static QList<Test::ArtworkRecord> LargestImages()
+    {
+        QList<Test::ArtworkRecord> images;
+        for (int faceID = 0; faceID < 32; ++faceID)
+            images.append({ faceID, 1024, 1024, 12, 1 });
+        return images;
+    }
+
     std::string PathOf(const char *name) const
     {
         return m_folder.filePath(QString::fromUtf8(name)).toStdString();

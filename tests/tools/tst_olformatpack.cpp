@@ -70,13 +70,19 @@ private Q_SLOTS:
             "png/sub/1.png: Unable to read image data");
         Row("face id and size twice",
             { { u"1-a.png"_s, Square(18) }, { u"1-b.png"_s, Square(18) } },
-            "png: two images have the same face id and size,");
+            "png: two images have the same face id and size");
         Row("side beyond 1,024", { { u"1.png"_s, Test::Png(QSize(1025, 1), Qt::red) } },
-            "png: two images have the same face id and size,");
+            "png: an image is wider or higher than 1,024 pixels");
         Files many;
         for (int side = 1; side <= 33; ++side)
             many.append({ u"%1/1.png"_s.arg(side), Square(side) });
-        Row("33 images of a face", many, "png: two images have the same face id and size,");
+        Row("33 images of a face", many, "png: a face id has more than 32 images");
+        const QByteArray largest = Square(1024);
+        Files large;
+        for (int faceID = 1; faceID <= 33; ++faceID)
+            large.append({ u"%1.png"_s.arg(faceID), largest });
+        Row("33 of the largest images", large,
+            "png: the images have more than 33,554,432 pixels together");
     }
 
     void itRefusesAFaultyFolder()
