@@ -58,8 +58,12 @@ void OLCodecTableWriter::Write(const OLCodecList &list, OLEncoderKind kind, QJso
 void OLCodecTableWriter::WriteTables(QJsonObject &document) const
 {
     document.insert("version"_L1, 1);
-    for (const auto &[name, tables] : m_document)
-        document.insert(name, tables);
+    for (const auto &[name, tables] : m_document) {
+        QJsonObject object;
+        for (const auto &[id, table] : tables)
+            object.insert(id, table);
+        document.insert(name, object);
+    }
 }
 
 QString OLCodecTableWriter::SetId(const OLEncoderSetPointer &set)
@@ -68,7 +72,7 @@ QString OLCodecTableWriter::SetId(const OLEncoderSetPointer &set)
         QJsonArray encoders;
         for (const OLEncoderPointer &encoder : set->encoders)
             encoders.append(EncoderId(encoder));
-        m_document[u"encoderSets"_s].insert(id, encoders);
+        m_document[u"encoderSets"_s].emplace(id, encoders);
     });
 }
 
@@ -81,7 +85,7 @@ QString OLCodecTableWriter::EncoderId(const OLEncoderPointer &encoder)
             object.insert("auto"_L1, true);
         OLForEachOptionType(encoder->kind,
                             [&]<class Option>() { WriteOptionList<Option>(*encoder, object); });
-        m_document[u"encoders"_s].insert(id, object);
+        m_document[u"encoders"_s].emplace(id, object);
     });
 }
 
@@ -100,7 +104,7 @@ QString OLCodecTableWriter::OptionListId(const OLOptionListPointer<Option> &list
 {
     auto &registry = std::get<OLTableRegistry<OLOptionList<Option>>>(m_lists);
     return registry.IdOf(list, [&](const QString &id) {
-        m_document[QString(OLOptionLayout<Option>::lists)].insert(id, ToJson(*list));
+        m_document[QString(OLOptionLayout<Option>::lists)].emplace(id, ToJson(*list));
     });
 }
 

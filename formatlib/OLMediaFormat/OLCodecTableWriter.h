@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OLCodecList.h"
+#include "OLTableComparison.h"
 #include "OLText.h"
 
 #include <QJsonObject>
@@ -18,6 +19,11 @@ class OLTableRegistry
 public:
     using Pointer = std::shared_ptr<const Table>;
 
+    explicit OLTableRegistry(OLTableComparison &comparison)
+        : m_comparison(comparison)
+    {
+    }
+
     // The id under which the document holds a table that says the same as table. Where it does not
     // yet, describe(id) is called to add it.
     template<class Describe>
@@ -27,7 +33,7 @@ public:
             return known->second;
         const QString wanted = ToQString(table->id);
         QString id = wanted;
-        for (int number = 2; Taken(id, *table); ++number)
+        for (int number = 2; Taken(id, table); ++number)
             id = wanted + u'-' + QString::number(number);
         m_ids.emplace(table, id);
         if (m_tables.emplace(id, table).second)
@@ -36,12 +42,13 @@ public:
     }
 
 private:
-    bool Taken(const QString &id, const Table &table) const
+    bool Taken(const QString &id, const Pointer &table) const
     {
         const auto holder = m_tables.find(id);
-        return holder != m_tables.end() && !SameContent(*holder->second, table);
+        return holder != m_tables.end() && !m_comparison.SaySame(holder->second, table);
     }
 
+    OLTableComparison &m_comparison;
     std::map<Pointer, QString> m_ids;
     std::map<QString, Pointer> m_tables;
 };
@@ -50,6 +57,11 @@ private:
 class OLCodecTableWriter
 {
 public:
+    OLCodecTableWriter() = default;
+    OLCodecTableWriter(const OLCodecTableWriter &) = delete;
+    OLCodecTableWriter &operator=(const OLCodecTableWriter &) = delete;
+    ~OLCodecTableWriter() = default;
+
     // Adds the encoder choices to preset, unless there are none.
     void Write(const OLCodecList &list, OLEncoderKind kind, QJsonObject &preset);
 
@@ -64,14 +76,19 @@ private:
     template<class Option>
     void WriteOptionList(const OLEncoder &encoder, QJsonObject &object);
 
+    // Ordered as QJsonObject orders its members: an object that is filled in this order does not
+    // move what it holds already.
+    using Members = std::map<QString, QJsonValue>;
+
+    OLTableComparison m_comparison;
     std::tuple<OLTableRegistry<OLOptionList<OLResolution>>,
                OLTableRegistry<OLOptionList<OLFrameRate>>, OLTableRegistry<OLOptionList<OLQuality>>,
                OLTableRegistry<OLOptionList<OLChannel>>,
                OLTableRegistry<OLOptionList<OLSampleRate>>>
-            m_lists;
-    OLTableRegistry<OLEncoder> m_encoders;
-    OLTableRegistry<OLEncoderSet> m_sets;
-    std::map<QString, QJsonObject> m_document; // by the name of the table's member
+            m_lists { m_comparison, m_comparison, m_comparison, m_comparison, m_comparison };
+    OLTableRegistry<OLEncoder> m_encoders { m_comparison };
+    OLTableRegistry<OLEncoderSet> m_sets { m_comparison };
+    std::map<QString, Members> m_document; // by the name of the table's member
 };
 
 } // namespace Orlimo

@@ -85,14 +85,4 @@ struct OLEncoderSet
 
 using OLEncoderSetPointer = std::shared_ptr<const OLEncoderSet>;
 
-// Whether two tables say the same, whatever their ids are.
-template<class Option>
-bool SameContent(const OLOptionList<Option> &left, const OLOptionList<Option> &right)
-{
-    return left.options == right.options;
-}
-
-bool SameContent(const OLEncoder &left, const OLEncoder &right);
-bool SameContent(const OLEncoderSet &left, const OLEncoderSet &right);
-
 } // namespace Orlimo
