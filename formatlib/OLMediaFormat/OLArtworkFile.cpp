@@ -24,6 +24,7 @@ constexpr qsizetype recordSize = 16; // face id, width, height, offset, length
 constexpr int maximumSide = 1024;
 constexpr quint32 maximumImages = 65536;
 constexpr std::size_t maximumImagesOfFace = 32;
+constexpr qint64 maximumPixelsOfFace = qint64(2) * maximumSide * maximumSide;
 constexpr qint64 maximumPixels = qint64(32) * maximumSide * maximumSide;
 constexpr qint64 maximumFileSize = qint64(256) << 20;
 
@@ -48,22 +49,13 @@ auto OrderOf(const OLArtworkImage &image)
     return std::tuple(image.faceID, image.size.width(), image.size.height());
 }
 
-bool FacesAreValid(const std::vector<OLArtworkImage> &images)
-{
-    for (std::size_t i = maximumImagesOfFace; i < images.size(); ++i) {
-        if (images[i].faceID == images[i - maximumImagesOfFace].faceID)
-            return false;
-    }
-    return true;
-}
-
 bool SidesAreValid(QSize size)
 {
     const auto valid = [](int side) { return side >= 1 && side <= maximumSide; };
     return valid(size.width()) && valid(size.height());
 }
 
-qint64 PixelsOf(const std::vector<OLArtworkImage> &images)
+qint64 PixelsOf(std::span<const OLArtworkImage> images)
 {
     return std::accumulate(images.begin(), images.end(), qint64(0),
                            [](qint64 pixels, const OLArtworkImage &image) {
@@ -71,9 +63,40 @@ qint64 PixelsOf(const std::vector<OLArtworkImage> &images)
                            });
 }
 
+qint64 BytesOf(std::span<const OLArtworkImage> images)
+{
+    return std::accumulate(images.begin(), images.end(), qint64(0),
+                           [](qint64 bytes, const OLArtworkImage &image) {
+                               return bytes + image.png.size();
+                           });
+}
+
+// Returns the reason for which one face id cannot have the images, or null.
+const char *FaultOfFace(std::span<const OLArtworkImage> images)
+{
+    if (images.size() > maximumImagesOfFace)
+        return "a face id has more than 32 images";
+    if (PixelsOf(images) > maximumPixelsOfFace)
+        return "the images of a face id have more than 2,097,152 pixels together";
+    return nullptr;
+}
+
+const char *FaultOfFaces(std::span<const OLArtworkImage> images)
+{
+    for (std::span<const OLArtworkImage> rest = images; !rest.empty();) {
+        const auto end = std::ranges::upper_bound(rest, rest.front().faceID, {},
+                                                  &OLArtworkImage::faceID);
+        const auto count = static_cast<std::size_t>(end - rest.begin());
+        if (const char *fault = FaultOfFace(rest.first(count)))
+            return fault;
+        rest = rest.subspan(count);
+    }
+    return nullptr;
+}
+
 // Returns the reason for which the images, ordered by face id and size, make no artwork file, or
 // null.
-const char *FaultOfImages(const std::vector<OLArtworkImage> &images)
+const char *FaultOfImages(std::span<const OLArtworkImage> images)
 {
     if (images.size() > maximumImages)
         return tooManyImages;
@@ -81,11 +104,11 @@ const char *FaultOfImages(const std::vector<OLArtworkImage> &images)
         return "an image is wider or higher than 1,024 pixels";
     if (std::ranges::adjacent_find(images, {}, OrderOf) != images.end())
         return "two images have the same face id and size";
-    if (!FacesAreValid(images))
-        return "a face id has more than 32 images";
     if (PixelsOf(images) > maximumPixels)
         return "the images have more than 33,554,432 pixels together";
-    return nullptr;
+    if (BytesOf(images) > maximumFileSize)
+        return "the images have more than 256 MiB together";
+    return FaultOfFaces(images);
 }
 
 // Returns the reason for which the header is not that of an artwork file, or null.

@@ -80,13 +80,17 @@ private Q_SLOTS:
         QVERIFY(manager->ArtworkGroup(7));
     }
 
-    void aFaceIdMayHave32ImagesOfUpTo1024Pixels()
+    void aFaceIdMayHave32Images()
     {
         QList<Test::ArtworkRecord> images;
-        for (quint16 side = 993; side <= 1024; ++side)
+        for (quint16 side = 1; side <= 32; ++side)
             images.append({ 7, side, side, 12, 1 });
         QVERIFY(Open(Test::ArtworkTable(images)));
     }
+
+    void aFaceIdMayHave2097152Pixels() { QVERIFY(Open(Test::ArtworkTable(TwoLargestImages()))); }
+
+    void theBytesOfAllImagesMayBe256MiB() { QVERIFY(Open(SharingBytes(4096, 65536))); }
 
     void allImagesMayHave33554432Pixels() { QVERIFY(Open(Test::ArtworkTable(LargestImages()))); }
 
@@ -134,7 +138,12 @@ private Q_SLOTS:
                 << Test::ArtworkTable(crowd) << QByteArray("a face id has more than 32");
         QTest::newRow("one pixel too many")
                 << Test::ArtworkTable(LargestImages() << Test::ArtworkRecord { 32, 1, 1, 12, 1 })
-                << QByteArray("more than 33,554,432 pixels");
+                << QByteArray("have more than 33,554,432 pixels");
+        QTest::newRow("one pixel too many for a face id")
+                << Test::ArtworkTable(TwoLargestImages() << Test::ArtworkRecord { 7, 1, 1, 12, 1 })
+                << QByteArray("of a face id have more than 2,097,152 pixels");
+        QTest::newRow("more bytes than a file may have, shared")
+                << SharingBytes(4097, 65536) << QByteArray("256 MiB together");
     }
 
     void aFaultyFileIsRefused() { ExpectFault({}); }
@@ -240,6 +249,21 @@ private:
         for (int faceID = 0; faceID < 32; ++faceID)
             images.append({ faceID, 1024, 1024, 12, 1 });
         return images;
+    }
+
+    // As many pixels as a face id may have.
+    static QList<Test::ArtworkRecord> TwoLargestImages()
+    {
+        return { { 7, 1024, 1024, 12, 1 }, { 7, 1024, 1023, 12, 1 }, { 7, 1024, 1, 12, 1 } };
+    }
+
+    // A file whose images are the same bytes, count of them.
+    static QByteArray SharingBytes(quint32 count, quint32 length)
+    {
+        QList<Test::ArtworkRecord> images;
+        for (quint32 i = 0; i < count; ++i)
+            images.append({ qint32(i), 1, 1, 12, length });
+        return Test::ArtworkTable(images) + QByteArray(length, 'x');
     }
 
     std::string PathOf(const char *name) const
