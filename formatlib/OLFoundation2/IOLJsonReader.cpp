@@ -16,7 +16,8 @@ namespace Orlimo {
 
 namespace {
 
-constexpr qint64 maximumFileSize = qint64(1) << 30;
+// Parsed, a text takes up to thirty times its size.
+constexpr qint64 maximumFileSize = qint64(256) << 20;
 
 using ErrorPointer = std::shared_ptr<const IOLError>;
 
@@ -89,7 +90,7 @@ std::shared_ptr<IOLJsonValue> IOLJsonReader::ReadJsonFile(std::string path, Erro
     if (!info.isFile())
         return Fail(error, std::move(path), {}, "not a regular file");
     if (info.size() > maximumFileSize)
-        return Fail(error, std::move(path), {}, "the file is larger than 1 GiB");
+        return Fail(error, std::move(path), {}, "the file is larger than 256 MiB");
     if (!file.open(QIODevice::ReadOnly))
         return Fail(error, std::move(path), {}, file.errorString().toStdString());
     const QByteArray text = file.readAll();

@@ -13,17 +13,16 @@ class IOLJsonValue;
 /// Reads JSON (RFC 8259, UTF-8), nested at most 1,024 levels; a byte order mark at the start is
 /// ignored.
 ///
-/// Both functions may be called on any thread. They log nothing, throw nothing but for lack
-/// of memory, and return an empty
-/// pointer on failure; then, if @p error is not null, it is set to the reason. On success @p error
-/// is left alone.
+/// Both functions may be called on any thread. They log nothing, throw nothing but for lack of
+/// memory, and return an empty pointer on failure; then, if @p error is not null, it is set to the
+/// reason. On success @p error is left alone.
 class OLFOUNDATION2_EXPORT IOLJsonReader
 {
 public:
     IOLJsonReader() = delete;
 
     /// Parses the file at @p path (UTF-8, absolute or relative to the working folder). Anything but
-    /// a regular file of at most 1 GiB is refused unread.
+    /// a regular file of at most 256 MiB is refused unread.
     static std::shared_ptr<IOLJsonValue> ReadJsonFile(std::string path,
                                                       std::shared_ptr<const IOLError> *error);
 

@@ -181,13 +181,13 @@ private Q_SLOTS:
         ExpectFault(error, path, "regular file");
     }
 
-    void aFileOfMoreThanAGibibyteIsRefused()
+    void aFileOfMoreThan256MebibytesIsRefused()
     {
         const std::string path = Write("[]");
-        QVERIFY(QFile::resize(QString::fromStdString(path), (qint64(1) << 30) + 1));
+        QVERIFY(QFile::resize(QString::fromStdString(path), (qint64(256) << 20) + 1));
         ErrorPointer error;
         QVERIFY(!IOLJsonReader::ReadJsonFile(path, &error));
-        ExpectFault(error, path, "1 GiB");
+        ExpectFault(error, path, "256 MiB");
         QVERIFY(QFile::remove(QString::fromStdString(path)));
     }
 
