@@ -22,6 +22,7 @@ namespace Orlimo {
 namespace {
 
 constexpr std::chrono::seconds longestWaitForLock { 5 };
+constexpr int mostValuesAside = 9;
 
 QString NonEmpty(const QString &name, const char *otherwise)
 {
@@ -67,15 +68,35 @@ QString NameForDamagedFile(const QString &path)
     return name;
 }
 
+bool IsText(const QVariant &value)
+{
+    const QByteArray bytes = value.toByteArray();
+    return value.typeId() == QMetaType::QString
+            || (value.typeId() == QMetaType::QByteArray
+                && QString::fromUtf8(bytes).toUtf8() == bytes);
+}
+
+// A key that is free, or that holds the value already. Where no key is free any more, the last
+// takes the newest value.
+QString KeyAside(const QSettings &settings, const QString &key, const QVariant &value)
+{
+    const auto isTaken = [&](const QString &aside) {
+        return settings.contains(aside) && settings.value(aside) != value;
+    };
+    const QString first = QStringLiteral("unreadable/") + key;
+    QString aside = first;
+    for (int i = 2; i <= mostValuesAside && isTaken(aside); ++i)
+        aside = first + u'_' + QString::number(i);
+    return aside;
+}
+
 // What is stored under the key and is no text, which no version of ours writes, is kept under
 // another before a text takes its place.
 void KeepOtherThanText(QSettings &settings, const QString &key)
 {
     const QVariant stored = settings.value(key);
-    const bool isText = stored.typeId() == QMetaType::QString
-            || stored.typeId() == QMetaType::QByteArray;
-    if (stored.isValid() && !isText)
-        settings.setValue(QStringLiteral("unreadable/") + key, stored);
+    if (stored.isValid() && !IsText(stored))
+        settings.setValue(KeyAside(settings, key, stored), stored);
 }
 
 QString StagingPrefix(const QString &path)

@@ -271,6 +271,45 @@ private Q_SLOTS:
         QVERIFY(!fresh.contains(QStringLiteral("unreadable/text")));
     }
 
+    void bytesThatAreNoTextAreKeptUnderAnotherKey()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "[General]\nbytes=@ByteArray(\\xff\\xfe)\ntext=@ByteArray(abc)\n");
+        for (const char *key : { "bytes", "text" })
+            IOLAppSettings::Shared()->SetValue("ours", key);
+        IOLAppSettings::Shared()->Save();
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("unreadable/bytes")).toByteArray(),
+                 QByteArray("\xff\xfe"));
+        QVERIFY(!fresh.contains(QStringLiteral("unreadable/text")));
+    }
+
+    void everyValueThatIsNoTextIsKept()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "[unreadable]\nkey=of a later version\n");
+        for (const char *list : { "a, b", "c, d", "a, b" }) {
+            QFile file(FilePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QByteArray content = file.readAll();
+            file.close();
+            content.replace("key=ours\n", "");
+            Create(FilePath(), QByteArray("[General]\nkey=") + list + '\n' + content);
+            IOLAppSettings::Shared()->SetValue("ours", "key");
+            IOLAppSettings::Shared()->Save();
+        }
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        const auto kept = [&](const char *key) {
+            return fresh.value(QStringLiteral("unreadable/") + QString::fromUtf8(key))
+                    .toStringList()
+                    .join(u'|');
+        };
+        QCOMPARE(kept("key"), QStringLiteral("of a later version"));
+        QCOMPARE(kept("key_2"), QStringLiteral("a|b"));
+        QCOMPARE(kept("key_3"), QStringLiteral("c|d"));
+        QCOMPARE(kept("key_4"), QString());
+    }
+
     void aFolderThatCannotBeMadeIsLoggedAndTheNextSaveWrites()
     {
         const QString blocked = m_folder->filePath(QStringLiteral("blocked"));
