@@ -65,7 +65,7 @@ bool IsEmpty(const IOLFormatNode &node)
     return node.PresetCount() == 0 && node.ChildCount() == 0;
 }
 
-std::shared_ptr<IOLFormatNode> MatchingTree(const IOLFormatNode &node, const Keyword &keyword)
+std::shared_ptr<IOLFormatNode> MatchingTree(IOLFormatNode &node, const Keyword &keyword)
 {
     auto result = node.Clone(cloneAttributes);
     for (int i = 0; i < node.PresetCount(); ++i) {
@@ -102,8 +102,7 @@ std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> MatchingRecentItems(
     return matching;
 }
 
-std::shared_ptr<IOLFormatNode> MatchingTree(const IOLFormatNode &node,
-                                            const std::string &foldedKeyword)
+std::shared_ptr<IOLFormatNode> MatchingTree(IOLFormatNode &node, const std::string &foldedKeyword)
 {
     return MatchingTree(node, Keyword(foldedKeyword));
 }

@@ -17,8 +17,7 @@ std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> MatchingRecentItems(
         const std::string &foldedKeyword);
 
 // A copy of node with its matching presets, its matching children whole, and of its other children
-// what matches below them. It may have neither presets nor children.
-std::shared_ptr<IOLFormatNode> MatchingTree(const IOLFormatNode &node,
-                                            const std::string &foldedKeyword);
+// what matches below them. It may have neither presets nor children. The node is not changed.
+std::shared_ptr<IOLFormatNode> MatchingTree(IOLFormatNode &node, const std::string &foldedKeyword);
 
 } // namespace Orlimo

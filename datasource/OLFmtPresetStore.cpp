@@ -9,6 +9,7 @@
 #include "IOLJsonValue.h"
 #include "IOLJsonWriter.h"
 
+#include <map>
 #include <string>
 
 namespace Orlimo {
@@ -16,6 +17,9 @@ namespace Orlimo {
 namespace {
 
 constexpr int mostValuesAside = 9;
+
+// The stored values that could not be read, by their keys, until the next save takes their place.
+std::map<std::string, std::string> unreadableValues;
 
 std::shared_ptr<IOLFormatNode> BuildNode(const char *name, const char *description, int faceID)
 {
@@ -54,12 +58,13 @@ void KeepAside(const std::string &value, const std::string &key)
 
 std::shared_ptr<IOLFormatNode> LoadPresetNode(const std::string &key)
 {
+    unreadableValues.erase(key);
     const std::string encoded = IOLAppSettings::Shared()->Value(key);
     if (encoded.empty())
         return nullptr;
     auto node = ReadNode(encoded);
     if (!node)
-        KeepAside(encoded, key);
+        unreadableValues.emplace(key, encoded);
     return node;
 }
 
@@ -68,6 +73,8 @@ void StorePresetNode(const std::shared_ptr<IOLFormatNode> &node, const std::stri
     if (!node || key.empty())
         return;
     const std::string text = IOLJsonWriter::WriteJsonString(node->ToJsonValue());
+    if (const auto unreadable = unreadableValues.extract(key))
+        KeepAside(unreadable.mapped(), key);
     const auto settings = IOLAppSettings::Shared();
     settings->SetValue(IOLBase64Codec::Encode(text), key);
     settings->Save();
@@ -83,8 +90,7 @@ std::shared_ptr<IOLFormatNode> BuildCustomNode()
     return BuildNode("Custom", "Custom Preset", IOLArtworkImageMgr::CategoryFaceIDCustomize);
 }
 
-std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> BuildRecentList(
-        const IOLFormatNode &recentRoot)
+std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> BuildRecentList(IOLFormatNode &recentRoot)
 {
     std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> list;
     for (int i = recentRoot.ChildCount() - 1; i >= 0; --i) {

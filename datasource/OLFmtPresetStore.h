@@ -16,7 +16,8 @@ inline constexpr char OLRecentPresetsKey[] = "recent_format_preset";
 inline constexpr char OLCustomPresetsKey[] = "custom_format_preset";
 
 // Empty where nothing usable is stored under key. A value that cannot be read, perhaps because a
-// later version wrote it, goes to the group "unreadable" of the settings with the next save.
+// later version wrote it, goes to the group "unreadable" of the settings when a node is stored in
+// its place.
 std::shared_ptr<IOLFormatNode> LoadPresetNode(const std::string &key);
 
 // Does nothing without a node or a key.
@@ -27,7 +28,6 @@ std::shared_ptr<IOLFormatNode> BuildCustomNode();
 
 // The recent choices that the "Recent" node holds, newest first; a child without a preset gives
 // none.
-std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> BuildRecentList(
-        const IOLFormatNode &recentRoot);
+std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> BuildRecentList(IOLFormatNode &recentRoot);
 
 } // namespace Orlimo

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void unusableValuesGiveFreshTreesAndStayAsTheyAre_data();
     void unusableValuesGiveFreshTreesAndStayAsTheyAre();
     void theNextSaveKeepsAnUnusableValueAside();
+    void onlyASaveUnderItsKeyMovesAnUnusableValue();
     void everyUnusableValueIsKept();
     void ofManyUnusableValuesTheFirstAndTheNewestAreKept();
     void aUsableValueIsNotKeptAside();
@@ -110,6 +111,18 @@ void tst_OLFmtPresetStore_Unusable::theNextSaveKeepsAnUnusableValueAside()
     QCOMPARE(Stored("unreadable/recent_format_preset"_L1), QByteArray("garbage"));
     restart();
     QCOMPARE(m_dataSource->GetRecentItems().size(), 1);
+}
+
+void tst_OLFmtPresetStore_Unusable::onlyASaveUnderItsKeyMovesAnUnusableValue()
+{
+    Store("garbage");
+    restart();
+    Orlimo::IOLAppSettings::Shared()->SetValue("a value of the host", "host");
+    Orlimo::IOLAppSettings::Shared()->Save();
+    QVERIFY(!Test::SettingsFile().contains("unreadable"));
+    m_dataSource->SaveRecentPresets();
+    QCOMPARE(Stored("unreadable/recent_format_preset"_L1), QByteArray("garbage"));
+    QCOMPARE(Stored("unreadable/custom_format_preset"_L1), QByteArray());
 }
 
 void tst_OLFmtPresetStore_Unusable::everyUnusableValueIsKept()
