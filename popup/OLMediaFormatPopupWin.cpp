@@ -38,15 +38,17 @@ void OLMediaFormatPopupWin::PostFormatDataLoaded()
 }
 
 // The popup adds the categories whenever it is asked to. It is asked after the load and after it
-// was made, in either order, so only the first time that there is a tree counts.
+// was made, in either order, so only the first time that there is a tree counts. A load may end
+// between the two looks at the tree here.
 void OLMediaFormatPopupWin::TakeUpFormatData(RPFmtSelectionDlg *popup)
 {
     if (m_hasFormatData) {
         popup->OnArtworkRenewed();
         return;
     }
-    m_hasFormatData = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode() != nullptr;
+    const bool hasTree = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode() != nullptr;
     popup->OnFormatDataLoaded();
+    m_hasFormatData = hasTree || popup->HasCategories();
 }
 
 // A load that ends while the popup is being made finds no popup to tell, so its result is looked
