@@ -24,6 +24,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace Orlimo {
@@ -158,8 +159,16 @@ void RPFmtSelectionDlg::ReportSelectionsOf(RPFmtNodeWdg *page)
     };
 }
 
+// A host may ask for the popup when it sees the focus leave a popup that is just being hidden or
+// shown; then it is shown right after that.
 void RPFmtSelectionDlg::ShowPopup(Callback callback, const QRect &anchor)
 {
+    if (changingVisibility) {
+        QMetaObject::invokeMethod(
+                this, [this, callback, anchor] { ShowPopup(callback, anchor); },
+                Qt::QueuedConnection);
+        return;
+    }
     selectCallback = std::move(callback);
     selecting = false;
     switchingPage = false;
@@ -208,7 +217,8 @@ void RPFmtSelectionDlg::OnArtworkRenewed()
 {
     RenewListIcons();
     const auto root = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode();
-    for (int i = 0; root && i < root->ChildCount(); ++i)
+    const int categories = root ? std::min(root->ChildCount(), ui.tabWidget->count() - 2) : 0;
+    for (int i = 0; i < categories; ++i)
         ui.tabWidget->setTabIcon(recentTab + 1 + i, ArtworkIcon(root->ChildAt(i)->FaceID()));
     update();
 }
@@ -277,9 +287,9 @@ void RPFmtSelectionDlg::Edit(std::shared_ptr<IOLFormatPreset> preset,
                              std::shared_ptr<IOLFormatNode> node)
 {
     selecting = true;
-    HideQuietly();
     const Callback callback = selectCallback;
     const int opening = openings;
+    HideQuietly();
     const bool saved = RPFmtEditingDlg::EditPreset(preset, node);
     if (!saved) {
         preset = nullptr;
@@ -303,12 +313,12 @@ void RPFmtSelectionDlg::Choose(std::shared_ptr<const IOLFormatPreset> preset,
 void RPFmtSelectionDlg::OnFormatSelected(std::shared_ptr<const IOLFormatPreset> preset,
                                          std::shared_ptr<const IOLFormatNode> node)
 {
+    const Callback callback = selectCallback;
     HideQuietly();
-    Report(selectCallback, std::move(preset), std::move(node));
+    Report(callback, std::move(preset), std::move(node));
 }
 
-// The callback is a copy, since it may open the popup again with another one.
-void RPFmtSelectionDlg::Report(const Callback callback,
+void RPFmtSelectionDlg::Report(const Callback &callback,
                                std::shared_ptr<const IOLFormatPreset> preset,
                                std::shared_ptr<const IOLFormatNode> node)
 {

@@ -81,7 +81,7 @@ private:
                 std::shared_ptr<const IOLFormatNode> node);
     void OnFormatSelected(std::shared_ptr<const IOLFormatPreset> preset,
                           std::shared_ptr<const IOLFormatNode> node);
-    void Report(Callback callback, std::shared_ptr<const IOLFormatPreset> preset,
+    void Report(const Callback &callback, std::shared_ptr<const IOLFormatPreset> preset,
                 std::shared_ptr<const IOLFormatNode> node);
     void CloseWithoutChoice();
     void HideQuietly();
