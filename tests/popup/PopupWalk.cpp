@@ -178,7 +178,7 @@ void PopupWalk::DeleteRecent()
     Note(QString::number(place));
     model.Apply({ PresetsOperation::RemoveListedItem, {}, {}, static_cast<int>(place), {} });
     model.Apply({ PresetsOperation::SaveRecent });
-    m_scene.Driver().ClickAction("lwRecentList", *row);
+    Test::ClickTrashOfRecent(*m_scene.Driver().List("lwRecentList"), *row);
     m_scene.Verify(m_scene.Reports().isEmpty(), u"a deletion was reported"_s);
 }
 
