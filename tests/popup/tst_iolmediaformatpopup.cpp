@@ -1,3 +1,4 @@
+#include "ModalDriver.h"
 #include "PopupDriver.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
@@ -11,7 +12,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QPushButton>
-#include <QTimer>
 
 #include <limits>
 
@@ -21,30 +21,16 @@ using Test::PopupDriver;
 
 namespace {
 
-QDialog *openDialog()
+using WhenDialogOpen = Test::WhenOpen<QDialog>;
+
+void press(const QDialog &dialog, const char *button)
 {
-    return qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    QTest::mouseClick(dialog.findChild<QPushButton *>(QString::fromLatin1(button)), Qt::LeftButton);
 }
 
-// Runs act(dialog) once the editing dialog is open.
-template<class Action>
-void inDialog(Action act)
+void chooseNextResolution(const QDialog &dialog)
 {
-    QTimer::singleShot(0, qApp, [act] {
-        QTRY_VERIFY(openDialog());
-        act(openDialog());
-    });
-}
-
-void press(const QDialog *dialog, const char *button)
-{
-    QTest::mouseClick(dialog->findChild<QPushButton *>(QString::fromLatin1(button)),
-                      Qt::LeftButton);
-}
-
-void chooseNextResolution(const QDialog *dialog)
-{
-    auto *combo = dialog->findChild<QComboBox *>(u"cmbResolution"_s);
+    auto *combo = dialog.findChild<QComboBox *>(u"cmbResolution"_s);
     QTest::keyClick(combo, Qt::Key_Down);
 }
 
@@ -140,7 +126,7 @@ private Q_SLOTS:
     {
         const auto preset = IOLFormatPreset::MallocFormatPreset("MP4", "");
         const int before = preset->CurrentVideoCodec()->CurrentResolutionIndex();
-        inDialog([](const QDialog *dialog) {
+        const WhenDialogOpen act([](const QDialog &dialog) {
             chooseNextResolution(dialog);
             press(dialog, "btnSave");
         });
@@ -154,7 +140,7 @@ private Q_SLOTS:
     {
         const auto preset = IOLFormatPreset::MallocFormatPreset("MP4", "");
         const int before = preset->CurrentVideoCodec()->CurrentResolutionIndex();
-        inDialog([](const QDialog *dialog) {
+        const WhenDialogOpen act([](const QDialog &dialog) {
             chooseNextResolution(dialog);
             press(dialog, "btnCancel");
         });
@@ -164,8 +150,8 @@ private Q_SLOTS:
 
     void editWithoutAPresetOffersNothingToSave()
     {
-        inDialog([](const QDialog *dialog) {
-            QVERIFY(!dialog->findChild<QPushButton *>(u"btnSave"_s)->isEnabled());
+        const WhenDialogOpen act([](const QDialog &dialog) {
+            QVERIFY(!dialog.findChild<QPushButton *>(u"btnSave"_s)->isEnabled());
             press(dialog, "btnCancel");
         });
         QVERIFY(!IOLMediaFormatPopup::Shared()->EditFormatPreset(nullptr, nullptr));
@@ -176,7 +162,7 @@ private Q_SLOTS:
         const auto first = IOLFormatPreset::MallocFormatPreset("MP4", "");
         const int before = first->CurrentVideoCodec()->CurrentResolutionIndex();
         bool second = true;
-        inDialog([&](const QDialog *dialog) {
+        const WhenDialogOpen act([&](const QDialog &dialog) {
             chooseNextResolution(dialog);
             second = IOLMediaFormatPopup::Shared()
                              ->EditFormatPreset(IOLFormatPreset::MallocFormatPreset("MP3", ""),

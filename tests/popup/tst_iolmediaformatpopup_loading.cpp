@@ -23,6 +23,12 @@ using Test::PopupDriver;
 // stays for the life of the process. The child prints the tabs it ends with.
 namespace {
 
+void verify(bool condition, const char *what)
+{
+    if (!condition)
+        qFatal("not so: %s", what);
+}
+
 class Scenario
 {
 public:
@@ -51,15 +57,38 @@ public:
         Test::WriteArtwork(artwork, { { 1001, Qt::green } }, { 33 });
     }
 
+    // Has the description take longer to parse, by about a millisecond for each megabyte.
+    void enlarge(int megabytes) const
+    {
+        QFile file(m_path);
+        const QByteArray space(megabytes * 1024 * 1024, ' ');
+        verify(file.open(QIODevice::Append) && file.write(space) == space.size(),
+               "the description is enlarged");
+    }
+
 private:
     QString m_path;
 };
 
-void verify(bool condition, const char *what)
+// Has the load end when the widget receives an event, such as one of a change to its geometry.
+class LoadEndsWithAnEventOf final : public QObject
 {
-    if (!condition)
-        qFatal("not so: %s", what);
-}
+public:
+    explicit LoadEndsWithAnEventOf(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool HasEnded() const { return m_hasEnded; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        Scenario::wait();
+        m_hasEnded = true;
+        return false;
+    }
+
+private:
+    bool m_hasEnded = false;
+};
 
 void loadAfterAFailure(const Scenario &scenario)
 {
@@ -71,6 +100,44 @@ void loadAfterAFailure(const Scenario &scenario)
     scenario.setUp();
     Scenario::wait();
     Scenario::handleEvents();
+}
+
+// What the failure has posted is handled while the good load runs, which ends in the midst of that.
+void loadThatEndsWhileAFailureIsTakenUp(const Scenario &scenario)
+{
+    scenario.enlarge(16);
+    Scenario::show();
+    QWidget *popup = PopupDriver::FindPopup();
+    verify(QTest::qWaitForWindowExposed(popup), "the popup is shown");
+    Scenario::setUpMissing();
+    Scenario::wait();
+    scenario.setUp();
+    const LoadEndsWithAnEventOf load(PopupDriver(popup).Tabs()->tabBar());
+    QCoreApplication::sendPostedEvents(popup, QEvent::MetaCall);
+    verify(load.HasEnded(), "the tabs get their icons");
+    Scenario::handleEvents();
+}
+
+void takeUpAFailureDuringALoad(const Scenario &scenario, int delay)
+{
+    scenario.enlarge(2);
+    Scenario::show();
+    Scenario::setUpMissing();
+    Scenario::wait();
+    scenario.setUp();
+    QThread::usleep(static_cast<unsigned long>(delay));
+    QCoreApplication::processEvents();
+    Scenario::wait();
+    Scenario::handleEvents();
+}
+
+void showDuringALoad(const Scenario &scenario, int delay)
+{
+    scenario.setUp();
+    QThread::usleep(static_cast<unsigned long>(delay));
+    Scenario::show();
+    Scenario::handleEvents();
+    Scenario::wait();
 }
 
 void loadAgain(const Scenario &scenario)
@@ -111,6 +178,8 @@ const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
         { u"set up, show, show, wait, events"_s,
           [](const S &s) { s.setUp(), S::show(), S::show(), S::wait(), S::handleEvents(); } },
         { u"failure, then a good load"_s, loadAfterAFailure },
+        { u"failure that is taken up while a good load ends"_s,
+          loadThatEndsWhileAFailureIsTakenUp },
         { u"a second load"_s, loadAgain },
     };
     return all;
@@ -119,19 +188,18 @@ const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
 int runScenario(const QString &name, const QString &path, int delay)
 {
     const Scenario scenario(path);
-    if (name == "show at a random moment"_L1) {
-        scenario.setUp();
-        QThread::usleep(static_cast<unsigned long>(delay));
-        Scenario::show();
-        Scenario::handleEvents();
-        Scenario::wait();
-    } else {
+    if (name == "show at a random moment"_L1)
+        showDuringALoad(scenario, delay);
+    else if (name == "take up a failure at a random moment"_L1)
+        takeUpAFailureDuringALoad(scenario, delay);
+    else
         scenarios().at(name)(scenario);
-    }
     const QStringList tabs = PopupDriver(PopupDriver::FindPopup()).TabTexts();
     std::printf("%s", qPrintable(tabs.join(u'|')));
     return 0;
 }
+
+const QString failure = u"orlimo: Failed load external format /missing.json\n"_s;
 
 } // namespace
 
@@ -157,7 +225,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("scenario");
         QTest::addColumn<QString>("logged");
-        const QString failure = u"orlimo: Failed load external format /missing.json\n"_s;
         for (const auto &[name, run] : scenarios())
             QTest::newRow(qPrintable(name))
                     << name << (name.startsWith(u"failure"_s) ? failure : u""_s);
@@ -175,6 +242,13 @@ private Q_SLOTS:
         for (int delay = 0; delay <= 3000; delay += 200)
             QCOMPARE(tabsAfter(u"show at a random moment"_s, delay),
                      u"Recent|Video|Audio|Custom"_s);
+    }
+
+    void categoriesAppearOnceWhenAFailureIsTakenUpWhileAGoodLoadEnds()
+    {
+        for (int delay = 0; delay <= 3000; delay += 250)
+            QCOMPARE(tabsAfter(u"take up a failure at a random moment"_s, delay),
+                     u"Recent|Video|Audio|Custom"_s + failure);
     }
 };
 
