@@ -17,17 +17,17 @@ QRect ActionBoxOnScreen(const QListWidget &list, int row)
     return { box.right() - 27, box.center().y() - 8, 17, 17 };
 }
 
-void ClickOnScreen(QWidget &widget, QPoint point)
+void ClickOnScreen(QWidget &widget, QPoint point, Qt::KeyboardModifiers modifiers)
 {
     QCursor::setPos(point);
     QWindow *window = widget.window()->windowHandle();
-    QTest::mouseClick(window, Qt::LeftButton, {}, window->mapFromGlobal(point));
+    QTest::mouseClick(window, Qt::LeftButton, modifiers, window->mapFromGlobal(point));
 }
 
-void ClickRow(QListWidget &list, int row)
+void ClickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers)
 {
     const QRect box = RowOnScreen(list, row);
-    ClickOnScreen(list, { box.left() + 20, box.center().y() });
+    ClickOnScreen(list, { box.left() + 20, box.center().y() }, modifiers);
 }
 
 void ClickAction(QListWidget &list, int row)

@@ -11,9 +11,10 @@ QRect ActionBoxOnScreen(const QListWidget &list, int row);
 
 // Moves the mouse pointer to a point of the screen, and presses and releases the left button there;
 // the window under it gets the events as from the window system.
-void ClickOnScreen(QWidget &widget, QPoint point);
+void ClickOnScreen(QWidget &widget, QPoint point, Qt::KeyboardModifiers modifiers = {});
 
-void ClickRow(QListWidget &list, int row); // left of the action icon
+// Clicks a row left of its action icon.
+void ClickRow(QListWidget &list, int row, Qt::KeyboardModifiers modifiers = {});
 void ClickAction(QListWidget &list, int row);
 
 // Clicks the action icon of a recent choice, which takes its row out of the list. The item, which

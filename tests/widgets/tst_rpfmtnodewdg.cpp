@@ -2,6 +2,8 @@
 
 #include "IOLFormatPreset.h"
 
+#include <QPointer>
+
 using namespace Orlimo;
 using Test::MakeCategory;
 using Test::MakeFormat;
@@ -79,6 +81,13 @@ private Q_SLOTS:
             QCOMPARE(RowAt(page.FormatList(), i)->textWidth, widest + 53 + 30);
     }
 
+    void besideAnEmptyNameTheDescriptionBeginsRightOfItsMargins()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(MakeCategory("Video", { MakeFormat("MP4", { "" }) }), false);
+        QCOMPARE(RowAt(page.FormatList(), 0)->textWidth, 53 + 30);
+    }
+
     void anEmptyPointerEmptiesTheLists()
     {
         RPFmtNodeWdg page(nullptr);
@@ -116,6 +125,21 @@ private Q_SLOTS:
         Test::ClickAction(*page.NodeList(), 2); // a node has no action
         QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"HD 720P"_s }));
         compareCurrentRows(page, 2, 0);
+    }
+
+    void aChildThatIsDeselectedKeepsItsPresets()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QVERIFY(Show(page));
+        Test::ClickRow(*page.NodeList(), 1);
+        const QPointer<QWidget> preset = RowAt(page.FormatList(), 0);
+        Test::ClickRow(*page.NodeList(), 1, Qt::ControlModifier);
+        QVERIFY(page.NodeList()->selectedItems().isEmpty());
+        QCOMPARE(RowTitles(*page.FormatList()), QStringList({ u"DivX"_s, u"Xvid"_s }));
+        QVERIFY(preset);
+        QCOMPARE(RowAt(page.FormatList(), 0), preset.get());
+        compareCurrentRows(page, 1, 0);
     }
 
     void theArrowKeysShowThePresetsOfTheNextChild()

@@ -59,6 +59,25 @@ private Q_SLOTS:
         compareCurrentRows(page, current, current);
     }
 
+    void aSearchFoldsLettersBeyondAscii_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("upper case finds lower case") << u"Ä"_s;
+        QTest::newRow("lower case finds upper case") << u"ö"_s;
+        QTest::newRow("Cyrillic") << u"ВИД"_s;
+        QTest::newRow("beyond the first plane") << u"𐐀"_s;
+    }
+
+    void aSearchFoldsLettersBeyondAscii()
+    {
+        QFETCH(const QString, text);
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(MakeCategory("Video", { MakeFormat("MP4", { "ä Ö видео 𐐨", "HD" }) }),
+                           false);
+        page.SearchFormat(text);
+        compareLists(page, { u"MP4"_s }, { u"ä Ö видео 𐐨"_s });
+    }
+
     void theSelectedChildOfASearchShowsWhatMatchesInIt()
     {
         RPFmtNodeWdg page(nullptr);

@@ -81,6 +81,13 @@ private Q_SLOTS:
         QCOMPARE(list().currentRow(), -1);
     }
 
+    void aNewPageIsEmptyThoughThereAreChoices()
+    {
+        showRecent({ "one", "two" });
+        const RPFmtRecentListWdg newPage(nullptr);
+        QCOMPARE(newPage.List()->count(), 0);
+    }
+
     void recentChoicesAreShownNewestFirst()
     {
         showRecent({ "one", "two", "three" });
@@ -114,6 +121,16 @@ private Q_SLOTS:
         showRecent({ "three" });
         QCOMPARE(RowTitles(list()), QStringList({ u"three"_s, u"two"_s, u"one"_s }));
         QCOMPARE(list().currentRow(), 0);
+    }
+
+    void aRefreshAfterTheChoicesHaveGoneEmptiesThePage()
+    {
+        showRecent({ "one", "two" });
+        for (const auto &item : DataSource()->GetRecentItems())
+            QVERIFY(DataSource()->RemoveRecentItem(item));
+        page->RefreshRecentList();
+        QCOMPARE(list().count(), 0);
+        QCOMPARE(list().currentRow(), -1);
     }
 
     void aClickOnARowChoosesIt()

@@ -83,6 +83,26 @@ private Q_SLOTS:
         QCOMPARE(list().currentRow(), titles.isEmpty() ? -1 : 0);
     }
 
+    void aSearchFoldsLettersBeyondAscii_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("upper case finds lower case") << u"Ä"_s << u"für später"_s;
+        QTest::newRow("lower case finds upper case") << u"ä"_s << u"ÄLTERE"_s;
+        QTest::newRow("Cyrillic") << u"ВИД"_s << u"видео"_s;
+        QTest::newRow("beyond the first plane") << u"𐐀"_s << u"𐐨"_s;
+    }
+
+    void aSearchFoldsLettersBeyondAscii()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, name);
+        IOLFmtPresetDataSource::Shared()->AddRecentPreset(Test::MakePreset(name.toStdString()),
+                                                          Test::MakeNode("", "usual"));
+        page->SearchRecentList(text);
+        QCOMPARE(RowTitles(list()), QStringList { name });
+    }
+
     void everySearchLooksAtAllChoices()
     {
         page->SearchRecentList(u"AVI"_s);
@@ -95,6 +115,16 @@ private Q_SLOTS:
         page->SearchRecentList(u"quicktime"_s);
         page->ResetRecentSearch();
         QCOMPARE(RowTitles(list()), QStringList({ u"AVI"_s, u"MP4 HD"_s, u"MP4"_s }));
+        QCOMPARE(list().currentRow(), 0);
+    }
+
+    void aResetWithoutASearchShowsWhatTheHostHasAdded()
+    {
+        list().setCurrentRow(2);
+        IOLFmtPresetDataSource::Shared()->AddRecentPreset(Test::MakePreset("MKV"),
+                                                          Test::MakeNode("", "usual"));
+        page->ResetRecentSearch();
+        QCOMPARE(RowTitles(list()), QStringList({ u"MKV"_s, u"AVI"_s, u"MP4 HD"_s, u"MP4"_s }));
         QCOMPARE(list().currentRow(), 0);
     }
 

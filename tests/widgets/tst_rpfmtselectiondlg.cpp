@@ -2,6 +2,7 @@
 #include "PopupDriver.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
+#include "TreeBuilder.h"
 
 #include "IOLFmtPresetDataSource.h"
 #include "IOLFormatNode.h"
@@ -45,6 +46,12 @@ class tst_RPFmtSelectionDlg : public Test::TestCase
         const auto preset = format->FirstFormatPreset()->Clone();
         preset->SetName(name);
         IOLFmtPresetDataSource::Shared()->AddRecentPreset(preset, format);
+    }
+
+    static void addCustom(const char *format, const char *name)
+    {
+        IOLFmtPresetDataSource::Shared()->AddCustomPreset(Test::MakePreset(name),
+                                                          Test::MakeNode(format));
     }
 
 private Q_SLOTS:
@@ -145,6 +152,18 @@ private Q_SLOTS:
         const Test::PopupDriver driver(&popup);
         QCOMPARE(driver.Tabs()->currentIndex(), 0);
         QCOMPARE(driver.RowTexts("lwRecentList"), QStringList({ u"MP4 Second"_s, u"MP4 First"_s }));
+    }
+
+    void customPresetsThatAreThereBeforeThePopupAreOnItsCustomTab()
+    {
+        addCustom("MP4", "mine");
+        addCustom("MP4", "other");
+        addCustom("AVI", "old");
+        RPFmtSelectionDlg popup;
+        const Test::PopupDriver driver(&popup);
+        QCOMPARE(driver.TabTexts().at(driver.Tabs()->currentIndex()), u"Custom"_s);
+        QCOMPARE(driver.RowTexts("ListNode"), QStringList({ u"MP4"_s, u"AVI"_s }));
+        QCOMPARE(driver.RowTexts("ListFormat"), QStringList({ u"mine"_s, u"other"_s }));
     }
 
     void formatDataThatIsNotThereAddsNoTab()

@@ -59,6 +59,12 @@ private Q_SLOTS:
                 << QRect(0, 190, 10, 10) << narrow << QPoint(0, 189);
 
         QTest::newRow("empty anchor") << QRect(100, 50, 0, 0) << screen << QPoint(100, 49);
+        QTest::newRow("empty anchor in the right half")
+                << QRect(1700, 50, 0, 0) << screen << QPoint(1700 - 800, 49);
+        QTest::newRow("empty anchor whose bottom, above its top, is at exactly the half")
+                << QRect(0, 541, 10, 0) << screen << QPoint(0, 480);
+        QTest::newRow("empty anchor one pixel further")
+                << QRect(0, 542, 10, 0) << screen << QPoint(0, 0);
         QTest::newRow("one pixel") << QRect(1700, 900, 1, 1) << screen << QPoint(899, 300);
         QTest::newRow("off the left edge stays")
                 << QRect(-30, 50, 10, 10) << screen << QPoint(-30, 49);
