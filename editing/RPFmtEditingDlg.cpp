@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QScopedValueRollback>
 #include <QStyle>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -31,10 +32,17 @@ void WidenList(QComboBox &combo)
     combo.view()->setMinimumWidth(combo.view()->sizeHintForColumn(0) + scrollBar);
 }
 
+// Left as it is, a text that looks like HTML would be rendered.
+QString ToolTipShowing(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
 // A chosen entry that the box cuts can be read in its tool tip.
 void TellWholeText(QComboBox &combo)
 {
-    QObject::connect(&combo, &QComboBox::currentTextChanged, &combo, &QWidget::setToolTip);
+    QObject::connect(&combo, &QComboBox::currentTextChanged, &combo,
+                     [&combo](const QString &text) { combo.setToolTip(ToolTipShowing(text)); });
 }
 
 bool IsCustomNameInUse(const std::string &name)
@@ -67,7 +75,9 @@ bool RPFmtEditingDlg::EditPreset(std::shared_ptr<IOLFormatPreset> preset,
     dialog->FillControls();
     dialog->ForgetFocus();
     PlaceAboveActiveWindow(*dialog);
-    return dialog->exec() == QDialog::Accepted;
+    const bool saved = dialog->exec() == QDialog::Accepted;
+    dialog->hide(); // exec() leaves it open where the host ends its event loop
+    return saved;
 }
 
 RPFmtEditingDlg::RPFmtEditingDlg()
@@ -76,6 +86,9 @@ RPFmtEditingDlg::RPFmtEditingDlg()
     setWindowTitle(Text(QT_TR_NOOP("Settings")));
     setFixedSize(540, 320);
     setAttribute(Qt::WA_QuitOnClose, false);
+    // exec() would take a modality of its own back before EditPreset() hides a window that was left
+    // open, and a window that is not modal then gives the others no input back.
+    setModal(true);
     ui.btnSave->setDefault(true);
 
     using Codec = IOLCodecPreset;

@@ -27,7 +27,7 @@ public:
     // Edits preset, which belongs to the format node; returns whether the user pressed Save.
     // Without a preset everything but Cancel is disabled; without a node a new custom preset is
     // filed under the name of the preset's format, or the preset's own. Returns false at once while
-    // the dialog is open already.
+    // the dialog is open already, and gives the edit up where the host ends its event loop.
     static bool EditPreset(std::shared_ptr<IOLFormatPreset> preset,
                            std::shared_ptr<IOLFormatNode> node);
 

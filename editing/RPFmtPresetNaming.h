@@ -12,7 +12,9 @@ namespace Orlimo {
 bool NamesFormat(const std::string &presetName, const std::string &nodeName);
 
 // The name to propose for a new custom preset: "-custom" and the first number from 0 on for which
-// isInUse(name) is false, after the preset's name and, unless that says it, the format's.
+// isInUse(name) is false, after the preset's name and, unless that says it, the format's. What
+// comes out of a line edit is the very name: it is valid UTF-8, and where it would be longer than a
+// line edit takes, the part before "-custom" is shortened.
 std::string ProposeCustomName(const std::string &presetName, const std::string &nodeName,
                               const std::function<bool(const std::string &name)> &isInUse);
 

@@ -91,6 +91,27 @@ const char *const sampleFormat = R"({
   ] }
 })";
 
+const char *const oneOfEach = R"({
+  "version": 1,
+  "resolutions": { "sizes": [ { "text": "Text" } ], "none": [] },
+  "frameRates": { "rates": [ { "text": "Text" } ], "none": [] },
+  "qualities": { "pictures": [ { "text": "Text" } ], "sounds": [ { "text": "Text" } ], "none": [] },
+  "channels": { "speakers": [ { "text": "Text" } ], "none": [] },
+  "sampleRates": { "samples": [ { "text": "Text" } ], "none": [] },
+  "encoders": {
+    "video": { "resolutions": "sizes", "frameRates": "rates", "qualities": "pictures",
+               "kind": "video", "name": "Text" },
+    "audio": { "channels": "speakers", "sampleRates": "samples", "qualities": "sounds",
+               "kind": "audio", "name": "Text" }
+  },
+  "encoderSets": { "video": [ "video" ], "audio": [ "audio" ] },
+  "root": { "name": "Format", "presets": [
+    { "name": "Preset", "faceId": 12,
+      "video": { "encoders": "video", "current": 0 },
+      "audio": { "encoders": "audio", "current": 0 } }
+  ] }
+})";
+
 QList<int> VideoOptions(const IOLCodecPreset *codec)
 {
     if (!codec)
@@ -117,6 +138,16 @@ std::shared_ptr<IOLFormatNode> MakeSampleFormat()
 std::shared_ptr<IOLFormatPreset> MakeSamplePreset(const std::string &name)
 {
     return MakeSampleFormat()->FindPreset(name)->Clone();
+}
+
+QByteArray OneOfEachDescription()
+{
+    return oneOfEach;
+}
+
+std::shared_ptr<IOLFormatPreset> MakePresetOf(const QByteArray &description)
+{
+    return MakeTree(description.toStdString())->PresetAt(0);
 }
 
 std::shared_ptr<IOLFormatNode> MakeTree(const std::string &json)

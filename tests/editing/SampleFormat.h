@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 
 #include <memory>
@@ -26,6 +27,14 @@ std::shared_ptr<Orlimo::IOLFormatNode> MakeSampleFormat();
 
 // A copy of the preset of that name in a sample format.
 std::shared_ptr<Orlimo::IOLFormatPreset> MakeSamplePreset(const std::string &name);
+
+// The description of a preset with one encoder on each side, which has one option of every kind.
+// Their texts are all "Text"; the lists are called "sizes", "rates", "pictures", "speakers",
+// "samples" and "sounds", and "none" is an empty list of every kind.
+QByteArray OneOfEachDescription();
+
+// The first preset of a description.
+std::shared_ptr<Orlimo::IOLFormatPreset> MakePresetOf(const QByteArray &description);
 
 // The tree that the JSON text describes; empty where it cannot be read.
 std::shared_ptr<Orlimo::IOLFormatNode> MakeTree(const std::string &json);

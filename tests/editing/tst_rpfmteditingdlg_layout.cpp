@@ -86,6 +86,11 @@ private Q_SLOTS:
         QCOMPARE(Dialog()->objectName(), QStringLiteral("RPFmtEditingDlgClass"));
     }
 
+    void theNewDialogIsCalledSettings()
+    {
+        QCOMPARE(Dialog()->windowTitle(), QStringLiteral("Settings"));
+    }
+
     void objectsHaveTheirClasses_data()
     {
         QTest::addColumn<QByteArray>("name");

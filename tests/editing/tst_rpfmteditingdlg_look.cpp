@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QProxyStyle>
+#include <QTextDocument>
 
 using namespace Test;
 using Orlimo::RPFmtEditingDlg;
@@ -47,6 +48,16 @@ template<class Object>
 Object *Find(const QString &name)
 {
     return Dialog()->findChild<Object *>(name);
+}
+
+// What a tool tip with the text shows.
+QString ShownInToolTip(const QString &text)
+{
+    if (!Qt::mightBeRichText(text))
+        return text;
+    QTextDocument document;
+    document.setHtml(text);
+    return document.toPlainText();
 }
 
 bool DefaultHeightForWidth(const QWidget &widget)
@@ -277,6 +288,51 @@ private Q_SLOTS:
         });
         Edit(MakeSamplePreset("Automatic"), MakeSampleFormat(), [](const EditingDriver &user) {
             QCOMPARE(user.Combo(QStringLiteral("cmbResolution")).toolTip(), QString());
+            user.Press(Qt::Key_Escape);
+        });
+    }
+
+    void aTextThatLooksLikeHtmlIsShownAsItStands_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("tag") << QByteArray("<b>x</b>");
+        QTest::newRow("picture") << QByteArray("<img src=file:///x.png>");
+        QTest::newRow("line break") << QByteArray("one<br>two");
+        QTest::newRow("entity") << QByteArray("<p>&amp; &lt;</p>");
+        QTest::newRow("spaces") << QByteArray("  <i>a   b</i>");
+        QTest::newRow("beyond ASCII") << QByteArray("<u>Größe 小</u>");
+    }
+
+    void aTextThatLooksLikeHtmlIsShownAsItStands()
+    {
+        QFETCH(const QByteArray, text);
+        const QString expected = QString::fromUtf8(text);
+        QVERIFY(Qt::mightBeRichText(expected));
+        const auto preset = MakePresetOf(OneOfEachDescription().replace("Text", text));
+        Edit(preset, nullptr, [&expected](const EditingDriver &user) {
+            for (const QString &name : allCombos) {
+                QCOMPARE(user.Combo(name).currentText(), expected);
+                QCOMPARE(ShownInToolTip(user.Combo(name).toolTip()), expected);
+            }
+            user.Press(Qt::Key_Escape);
+        });
+    }
+
+    void aPlainTextIsTheToolTipItself_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("ampersand") << QByteArray("Mono & Stereo &amp;");
+        QTest::newRow("less than") << QByteArray("rate < 48 kHz");
+        QTest::newRow("greater than") << QByteArray("3 > 2 > 1");
+    }
+
+    void aPlainTextIsTheToolTipItself()
+    {
+        QFETCH(const QByteArray, text);
+        const auto preset = MakePresetOf(OneOfEachDescription().replace("Text", text));
+        Edit(preset, nullptr, [&text](const EditingDriver &user) {
+            for (const QString &name : allCombos)
+                QCOMPARE(user.Combo(name).toolTip(), QString::fromUtf8(text));
             user.Press(Qt::Key_Escape);
         });
     }

@@ -189,6 +189,38 @@ private Q_SLOTS:
         QCOMPARE(StoredNames(), QStringList { u"MP4/Mine"_s });
     }
 
+    void withoutANodeAndAFormatThePresetGoesUnderItsOwnName()
+    {
+        const auto preset = MakePresetOf(OneOfEachDescription());
+        QCOMPARE(preset->FormatName(), std::string());
+        Edit(preset, nullptr, [](const EditingDriver &user) {
+            SaveAs(user, u"Mine"_s);
+            CancelEdit(user);
+        });
+        QCOMPARE(CustomNames(*CustomNode()), QStringList { u"Preset/Mine"_s });
+        QCOMPARE(StoredNames(), QStringList { u"Preset/Mine"_s });
+        QCOMPARE(StoredTree()->FindChild("Preset")->FaceID(), 12);
+    }
+
+    void nothingIsStoredOfAWorkingCopyWithoutAClone()
+    {
+        const QSignalSpy succeeded(RPFmtEditingDlg::Instance(),
+                                   &RPFmtEditingDlg::CustomNewPresetSucceed);
+        const auto before = IOLAppSettings::Shared()->Value(settingsKey);
+        AddCustom("Not saved", "MP4");
+        const auto working = std::make_shared<PresetWithClone>(MakeSamplePreset("HD"), nullptr);
+        const auto preset = std::make_shared<PresetWithClone>(MakeSamplePreset("HD"), working);
+        Edit(preset, MakeSampleFormat(), [](const EditingDriver &user) {
+            SaveAs(user, u"Mine"_s);
+            QVERIFY(user.Dialog().isVisible());
+            QCOMPARE(user.EnabledCombos(), allCombos);
+            CancelEdit(user);
+        });
+        QVERIFY(succeeded.isEmpty());
+        QCOMPARE(CustomNames(*CustomNode()), QStringList { u"MP4/Not saved"_s });
+        QCOMPARE(IOLAppSettings::Shared()->Value(settingsKey), before);
+    }
+
     void withoutANodeThePresetJoinsTheOthersOfItsFormat()
     {
         AddCustom("First", "MP4");

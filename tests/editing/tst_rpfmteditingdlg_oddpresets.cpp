@@ -8,6 +8,8 @@
 #include "IOLCodecPreset.h"
 #include "IOLFormatNode.h"
 
+#include <utility>
+
 using namespace Test;
 using namespace Qt::StringLiterals;
 using Orlimo::IOLCodecPreset;
@@ -98,6 +100,22 @@ public:
     bool hasLost = false;
 };
 
+// A preset that can be cloned once.
+class ClonedOnce final : public ForwardingPreset
+{
+public:
+    using ForwardingPreset::ForwardingPreset;
+    ~ClonedOnce() override = default;
+
+    std::shared_ptr<IOLFormatPreset> Clone() const override
+    {
+        return std::exchange(m_isCloned, true) ? nullptr : ForwardingPreset::Clone();
+    }
+
+private:
+    mutable bool m_isCloned = false;
+};
+
 std::shared_ptr<IOLFormatPreset> Showing(std::shared_ptr<IOLFormatPreset> working)
 {
     return std::make_shared<PresetWithClone>(MakeSamplePreset("HD"), std::move(working));
@@ -148,6 +166,23 @@ private Q_SLOTS:
         const auto before = AllIndices(*preset);
         const auto isSaved = Edit(preset, MakeSampleFormat(), [](const EditingDriver &user) {
             CompareEmptyDialog(user);
+            Cancel(user);
+        });
+        QVERIFY(!isSaved);
+        QCOMPARE(AllIndices(*preset), before);
+    }
+
+    void resettingAPresetWithoutACloneShowsItAsNone()
+    {
+        const auto preset = std::make_shared<ClonedOnce>(MakeSamplePreset("HD"));
+        const auto before = AllIndices(*preset);
+        const auto isSaved = Edit(preset, MakeSampleFormat(), [](const EditingDriver &user) {
+            QCOMPARE(user.EnabledCombos(), allCombos);
+            user.Choose(u"cmbResolution"_s, 2);
+            user.Click(u"btnDefault"_s);
+            CompareEmptyDialog(user);
+            user.Click(u"btnSave"_s);
+            QVERIFY(user.Dialog().isVisible());
             Cancel(user);
         });
         QVERIFY(!isSaved);
@@ -227,6 +262,44 @@ private Q_SLOTS:
             QCOMPARE(user.Texts(u"cmbChannel"_s), channels);
             QCOMPARE(user.Texts(u"cmbSampleRate"_s), sampleRates);
             QCOMPARE(user.Texts(u"cmbAQuality"_s), audioQualities);
+            Cancel(user);
+        });
+    }
+
+    void aListWithoutOptionsDisablesItsOwnComboAlone_data()
+    {
+        QTest::addColumn<QString>("combo");
+        QTest::addColumn<QByteArray>("reference");
+        QTest::addColumn<QByteArray>("replacement");
+        const auto add = [](const char *combo, const QByteArray &kind, const QByteArray &list) {
+            const QByteArray reference = '"' + kind + "\": \"" + list + "\",";
+            const QByteArray emptyList = '"' + kind + "\": \"none\",";
+            const QString name = QString::fromLatin1(combo);
+            QTest::addRow("%s absent", combo) << name << reference << QByteArray();
+            QTest::addRow("%s empty", combo) << name << reference << emptyList;
+        };
+        add("cmbResolution", "resolutions", "sizes");
+        add("cmbFrameRate", "frameRates", "rates");
+        add("cmbVQuality", "qualities", "pictures");
+        add("cmbChannel", "channels", "speakers");
+        add("cmbSampleRate", "sampleRates", "samples");
+        add("cmbAQuality", "qualities", "sounds");
+    }
+
+    void aListWithoutOptionsDisablesItsOwnComboAlone()
+    {
+        QFETCH(const QString, combo);
+        QFETCH(const QByteArray, reference);
+        QFETCH(const QByteArray, replacement);
+        QCOMPARE(OneOfEachDescription().count(reference), 1);
+        const auto preset = MakePresetOf(OneOfEachDescription().replace(reference, replacement));
+        OpenFullPreset();
+        Edit(preset, nullptr, [&combo](const EditingDriver &user) {
+            for (const QString &name : allCombos) {
+                const QStringList expected = name == combo ? QStringList() : QStringList(u"Text"_s);
+                QCOMPARE(user.Texts(name), expected);
+                QCOMPARE(user.Combo(name).isEnabled(), name != combo);
+            }
             Cancel(user);
         });
     }

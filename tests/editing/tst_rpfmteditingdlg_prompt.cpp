@@ -47,6 +47,18 @@ private Q_SLOTS:
         });
     }
 
+    void thePromptHasTheWindowFlagsOfAnyInputDialog()
+    {
+        Edit(MakeSamplePreset("HD"), MakeSampleFormat(), [](const EditingDriver &user) {
+            const QInputDialog plain(&user.Dialog());
+            SaveAsNew(user, [&plain](QInputDialog &prompt) {
+                QCOMPARE(prompt.windowFlags(), plain.windowFlags());
+                RejectPrompt(prompt);
+            });
+            CancelEdit(user);
+        });
+    }
+
     void theProposalIsMadeOfTheNames_data()
     {
         QTest::addColumn<QByteArray>("preset");
@@ -97,6 +109,32 @@ private Q_SLOTS:
         });
         const QStringList expected { u"MP4/MP4 HD-custom0"_s, u"MP4/MP4 HD-custom1"_s };
         QCOMPARE(CustomNames(*CustomNode()), expected);
+    }
+
+    void acceptedProposalsAreNeverTheSame_data()
+    {
+        QTest::addColumn<QByteArray>("preset");
+        QTest::newRow("as long as the prompt takes") << QByteArray(32767, 'x');
+        QTest::newRow("longer") << QByteArray(40000, 'x');
+        QTest::newRow("too long with its number") << QByteArray(32760, 'x');
+        QTest::newRow("no valid UTF-8") << QByteArray("\xff HD \xc3");
+    }
+
+    void acceptedProposalsAreNeverTheSame()
+    {
+        QFETCH(const QByteArray, preset);
+        Edit(PresetCalled(preset.toStdString()), nullptr, [](const EditingDriver &user) {
+            for (const QString &suffix : { u"-custom0"_s, u"-custom1"_s }) {
+                SaveAsNew(user, [&suffix](QInputDialog &prompt) {
+                    QVERIFY(prompt.textValue().endsWith(suffix));
+                    AcceptPrompt(prompt);
+                });
+            }
+            CancelEdit(user);
+        });
+        const QStringList names = CustomNames(*CustomNode());
+        QCOMPARE(names.size(), 2);
+        QVERIFY(names.at(0) != names.at(1));
     }
 
     void thePromptDoesNotQuitTheApplicationEither()

@@ -74,9 +74,12 @@ class tst_RPFmtEditingDlgTexts : public Test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void theNewDialogIsCalledSettings()
+    // The first of the functions, since the dialog is made once.
+    void theNewDialogIsCalledSettingsInItsOwnContext()
     {
-        QCOMPARE(RPFmtEditingDlg::Instance()->windowTitle(), QStringLiteral("Settings"));
+        const MapTranslator catalogue(
+                { { { dialogContext, "Settings", "" }, QStringLiteral("Réglages") } });
+        QCOMPARE(RPFmtEditingDlg::Instance()->windowTitle(), QStringLiteral("Réglages"));
     }
 
     void setUpComposesATitleThatTheShownDialogDrops_data()

@@ -101,6 +101,62 @@ private Q_SLOTS:
 
     void takenNamesRaiseTheNumber() { compareProposal(); }
 
+    void theProposalFitsALineEdit_data()
+    {
+        QTest::addColumn<QByteArray>("preset");
+        QTest::addColumn<QByteArray>("node");
+        QTest::addColumn<QByteArrayList>("taken");
+        QTest::addColumn<QByteArray>("proposal");
+        const QByteArrayList none;
+        const QByteArray mp4 = "MP4";
+        const QByteArray longest(32759, 'x'); // 32767 with "-custom0"
+        QTest::newRow("just fits") << longest << QByteArray() << none << longest + "-custom0";
+        QTest::newRow("one too many")
+                << longest + 'y' << QByteArray() << none << longest + "-custom0";
+        QTest::newRow("far too many")
+                << longest.repeated(3) << QByteArray() << none << longest + "-custom0";
+        QTest::newRow("with the format")
+                << longest << mp4 << none << "MP4 " + longest.chopped(4) + "-custom0";
+        QTest::newRow("without a preset name")
+                << QByteArray() << longest + 'y' << none << longest + "-custom0";
+        QTest::newRow("taken") << longest + 'y' << QByteArray()
+                               << QByteArrayList { longest + "-custom0" } << longest + "-custom1";
+        QTest::newRow("two digits") << longest << QByteArray() << numbered(longest + "-custom", 10)
+                                    << longest.chopped(1) + "-custom10";
+        QTest::newRow("beyond ASCII, just fits")
+                << QByteArray("ä").repeated(32759) << QByteArray() << none
+                << QByteArray("ä").repeated(32759) + "-custom0";
+        QTest::newRow("beyond ASCII, one too many")
+                << QByteArray("ä").repeated(32760) << QByteArray() << none
+                << QByteArray("ä").repeated(32759) + "-custom0";
+        const QByteArray pair = "𐐀";
+        QTest::newRow("no half of a pair") << longest.chopped(1) + pair + "yz" << QByteArray()
+                                           << none << longest.chopped(1) + "-custom0";
+        QTest::newRow("a whole pair") << longest.chopped(2) + pair + "yz" << QByteArray() << none
+                                      << longest.chopped(2) + pair + "-custom0";
+    }
+
+    void theProposalFitsALineEdit() { compareProposal(); }
+
+    void theProposalIsValidUtf8_data()
+    {
+        QTest::addColumn<QByteArray>("preset");
+        QTest::addColumn<QByteArray>("node");
+        QTest::addColumn<QByteArrayList>("taken");
+        QTest::addColumn<QByteArray>("proposal");
+        const QByteArrayList none;
+        const QByteArray broken = "HD\xff";
+        QTest::newRow("preset") << broken << QByteArray() << none
+                                << QByteArray("HD\xef\xbf\xbd-custom0");
+        QTest::newRow("node") << QByteArray() << broken << none
+                              << QByteArray("HD\xef\xbf\xbd-custom0");
+        QTest::newRow("taken as it is stored")
+                << broken << QByteArray() << QByteArrayList { "HD\xef\xbf\xbd-custom0" }
+                << QByteArray("HD\xef\xbf\xbd-custom1");
+    }
+
+    void theProposalIsValidUtf8() { compareProposal(); }
+
     void candidatesAreTriedInOrderUpToTheFirstFreeOne()
     {
         std::vector<std::string> tried;

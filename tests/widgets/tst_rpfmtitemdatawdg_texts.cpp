@@ -239,6 +239,16 @@ private Q_SLOTS:
                          { u"H.264"_s, QRect(306, 18, 209, 17) } }));
     }
 
+    void aNodeTitleIsTheTranslatedName()
+    {
+        const Test::InstalledCatalogue catalogue(
+                { { "RPObject", "Portable players", u"Tragbare Geräte"_s } });
+        const auto row = makeRow();
+        row->node = Test::MakeNode("Portable players", "never shown");
+        QCOMPARE(row->Title(), u"Tragbare Geräte"_s);
+        QCOMPARE(Painted(*row), Drawn(*row, { { u"Tragbare Geräte"_s, QRect(52, 10, 490, 33) } }));
+    }
+
     void theTextsAreTranslatedOnEveryPaint()
     {
         const auto row = makePresetRow("Best", "High Quality");
