@@ -83,7 +83,8 @@ QList<Command> Commands()
           "file FILE, whose extension is icfg by custom.\n\n"
           "The name of a PNG file begins with its face id, before a minus sign or a\n"
           "point: 1001-mp4.png, 1001.png. A face id may have up to 32 images, each of\n"
-          "another size, with sides of up to 1,024 pixels.\n\n"
+          "another size, with sides of up to 1,024 pixels and 2,097,152 pixels together.\n"
+          "All images may have 33,554,432 pixels, and FILE 256 MiB.\n\n"
           "The exit status is 0 where FILE was written. Otherwise it is 2, the reason is\n"
           "printed, and a FILE that was there before is left as it was."_s,
           {},

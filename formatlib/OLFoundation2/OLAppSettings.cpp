@@ -184,7 +184,8 @@ std::string OLAppSettings::Value(std::string key) const
         return {};
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, m_organization, m_application);
     settings.setFallbacksEnabled(false);
-    return settings.value(ToQString(key)).toString().toStdString();
+    const QVariant stored = settings.value(ToQString(key));
+    return IsText(stored) ? stored.toString().toStdString() : std::string();
 }
 
 void OLAppSettings::Save()

@@ -63,11 +63,12 @@ qint64 PixelsOf(std::span<const OLArtworkImage> images)
                            });
 }
 
-qint64 BytesOf(std::span<const OLArtworkImage> images)
+// The size of a file in which no two images share bytes.
+qint64 FileSizeOf(std::span<const OLArtworkImage> images)
 {
-    return std::accumulate(images.begin(), images.end(), qint64(0),
+    return std::accumulate(images.begin(), images.end(), qint64(headerSize),
                            [](qint64 bytes, const OLArtworkImage &image) {
-                               return bytes + image.png.size();
+                               return bytes + recordSize + image.png.size();
                            });
 }
 
@@ -106,8 +107,8 @@ const char *FaultOfImages(std::span<const OLArtworkImage> images)
         return "two images have the same face id and size";
     if (PixelsOf(images) > maximumPixels)
         return "the images have more than 33,554,432 pixels together";
-    if (BytesOf(images) > maximumFileSize)
-        return "the images have more than 256 MiB together";
+    if (FileSizeOf(images) > maximumFileSize)
+        return "the images have more than 256 MiB together with the table";
     return FaultOfFaces(images);
 }
 

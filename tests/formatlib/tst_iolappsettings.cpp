@@ -284,6 +284,35 @@ private Q_SLOTS:
         QVERIFY(!fresh.contains(QStringLiteral("unreadable/text")));
     }
 
+    void aStoredValueThatIsNoTextIsNoValue()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), "[General]\nbytes=@ByteArray(\\xff\\xfe)\nlist=a, b\n");
+        QCOMPARE(IOLAppSettings::Shared()->Value("bytes"), std::string());
+        QCOMPARE(IOLAppSettings::Shared()->Value("list"), std::string());
+    }
+
+    void ofManyValuesThatAreNoTextTheFirstAndTheNewestAreKept()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        for (int i = 1; i <= 12; ++i) {
+            {
+                QSettings settings(FilePath(), QSettings::IniFormat);
+                settings.setValue(QStringLiteral("key"), QStringList(2, QString::number(i)));
+            }
+            IOLAppSettings::Shared()->SetValue("ours", "key");
+            IOLAppSettings::Shared()->Save();
+        }
+        const QSettings fresh(FilePath(), QSettings::IniFormat);
+        const auto kept = [&](const char *key) {
+            return fresh.value(QString::fromUtf8(key)).toStringList().join(u'|');
+        };
+        QCOMPARE(kept("unreadable/key"), QStringLiteral("1|1"));
+        QCOMPARE(kept("unreadable/key_8"), QStringLiteral("8|8"));
+        QCOMPARE(kept("unreadable/key_9"), QStringLiteral("12|12"));
+        QVERIFY(!fresh.contains(QStringLiteral("unreadable/key_10")));
+    }
+
     void everyValueThatIsNoTextIsKept()
     {
         QDir().mkpath(QFileInfo(FilePath()).path());
