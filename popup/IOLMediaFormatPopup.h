@@ -73,7 +73,9 @@ public:
     /// pointers where it was not. A choice is among the recent choices and saved before the
     /// callback is called, which may open the popup again or run a dialog. It is kept, with all
     /// that it captures, until the next show request. While the popup is open, a show request moves
-    /// it and replaces the callback, and the replaced one is not called.
+    /// it and replaces the callback, and the replaced one is not called. A request that comes while
+    /// the popup is just being shown or hidden, as from a handler of changes of the focus, is
+    /// carried out when the event loop runs next; of several the last.
     virtual void ShowFormatPopup(const PopupRect &rect, FmtSelectionCallback callback) = 0;
 
     /// Opens the popup at @p point, as beside a control of one pixel.
@@ -86,7 +88,7 @@ public:
     ///
     /// Without a preset the dialog shows nothing to edit; without a node new custom presets are
     /// filed under the name of the preset's format, or the preset's own name where it has none.
-    /// Returns false at once while the dialog is open.
+    /// Returns false at once while the dialog is open, and when the host ends its event loop.
     virtual bool EditFormatPreset(std::shared_ptr<IOLFormatPreset> preset,
                                   std::shared_ptr<IOLFormatNode> node) = 0;
 

@@ -42,13 +42,17 @@ void OLMediaFormatPopupWin::PostFormatDataLoaded()
 // between the two looks at the tree here.
 void OLMediaFormatPopupWin::TakeUpFormatData(RPFmtSelectionDlg *popup)
 {
-    if (m_hasFormatData) {
+    if (HasFormatData(*popup)) {
         popup->OnArtworkRenewed();
         return;
     }
-    const bool hasTree = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode() != nullptr;
+    m_hasTree = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode() != nullptr;
     popup->OnFormatDataLoaded();
-    m_hasFormatData = hasTree || popup->HasCategories();
+}
+
+bool OLMediaFormatPopupWin::HasFormatData(const RPFmtSelectionDlg &popup) const
+{
+    return m_hasTree || popup.HasCategories();
 }
 
 // A load that ends while the popup is being made finds no popup to tell, so its result is looked
@@ -58,10 +62,9 @@ void OLMediaFormatPopupWin::Show(const QRect &anchor, FmtSelectionCallback callb
     if (!m_selectionPopup) {
         KeepLibraryLoaded();
         m_selectionPopup = new RPFmtSelectionDlg;
-        m_hasFormatData = m_selectionPopup.load()->HasCategories();
     }
     RPFmtSelectionDlg *popup = m_selectionPopup;
-    if (!m_hasFormatData && IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode())
+    if (!HasFormatData(*popup) && IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode())
         TakeUpFormatData(popup);
     popup->ShowPopup(std::move(callback), anchor);
 }

@@ -25,10 +25,11 @@ public:
 private:
     void Show(const QRect &anchor, FmtSelectionCallback callback);
     void TakeUpFormatData(RPFmtSelectionDlg *popup);
+    bool HasFormatData(const RPFmtSelectionDlg &popup) const;
 
     // Written on the GUI thread, read on the loading thread; never destroyed.
     std::atomic<RPFmtSelectionDlg *> m_selectionPopup = nullptr;
-    bool m_hasFormatData = false; // the popup has taken up the format tree
+    bool m_hasTree = false; // the popup has taken up the format tree, perhaps without categories
 };
 
 } // namespace Orlimo

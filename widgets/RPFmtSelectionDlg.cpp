@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTabBar>
 #include <QTimer>
@@ -160,18 +161,18 @@ void RPFmtSelectionDlg::ReportSelectionsOf(RPFmtNodeWdg *page)
 }
 
 // A host may ask for the popup when it sees the focus leave a popup that is just being hidden or
-// shown; then it is shown right after that.
+// shown. The last one to ask gets it, once that is done.
 void RPFmtSelectionDlg::ShowPopup(Callback callback, const QRect &anchor)
 {
     if (changingVisibility) {
-        QMetaObject::invokeMethod(
-                this, [this, callback, anchor] { ShowPopup(callback, anchor); },
-                Qt::QueuedConnection);
+        requestedShow = [this, callback, anchor] { ShowPopup(callback, anchor); };
         return;
     }
+    requestedShow = nullptr;
     selectCallback = std::move(callback);
     selecting = false;
     switchingPage = false;
+    const auto post = qScopeGuard([this] { PostRequestedShow(); });
     const QScopedValueRollback quiet(changingVisibility, true);
     if (!isVisible()) {
         searchEdit->clear();
@@ -186,6 +187,17 @@ void RPFmtSelectionDlg::ShowPopup(Callback callback, const QRect &anchor)
     windowHandle()->installEventFilter(this);
     Activate();
     setFocus();
+}
+
+void RPFmtSelectionDlg::PostRequestedShow()
+{
+    if (!requestedShow)
+        return;
+    const auto show = [this] {
+        if (const auto request = std::exchange(requestedShow, nullptr))
+            request();
+    };
+    QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }
 
 // A popup that is shown again at once may never have lost the focus as far as the window system
@@ -335,6 +347,7 @@ void RPFmtSelectionDlg::Report(const Callback &callback,
 // Hiding the popup takes the focus from it while it still counts as visible.
 void RPFmtSelectionDlg::HideQuietly()
 {
+    const auto post = qScopeGuard([this] { PostRequestedShow(); });
     const QScopedValueRollback quiet(changingVisibility, true);
     hide();
 }

@@ -85,15 +85,17 @@ private:
                 std::shared_ptr<const IOLFormatNode> node);
     void CloseWithoutChoice();
     void HideQuietly();
+    void PostRequestedShow();
     void NoticePageSwitch(const QWidget *focusLoser);
 
     Ui::RPFmtSelectionDlgClass ui;
     Callback selectCallback;
     QLineEdit *searchEdit = nullptr;
-    QPoint place;                    // where the popup was last opened
-    int corrections = 0;             // how often it was put back there
-    int openings = 0;                // how often the popup was shown
-    bool selecting = false;          // a choice is being reported or a preset edited
+    std::function<void()> requestedShow; // asked for while showing or hiding, if it was
+    QPoint place;                        // where the popup was last opened
+    int corrections = 0;                 // how often it was put back there
+    int openings = 0;                    // how often the popup was shown
+    bool selecting = false;              // a choice is being reported or a preset edited
     bool changingVisibility = false; // focus changes come from showing or hiding the popup itself
     bool switchingPage = false;      // focus changes come from the change to another tab
 };

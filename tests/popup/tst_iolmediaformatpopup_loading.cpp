@@ -118,6 +118,32 @@ void loadThatEndsWhileAFailureIsTakenUp(const Scenario &scenario)
     Scenario::handleEvents();
 }
 
+// The categories hide the page that has the focus, and the host asks for the popup when it sees
+// that.
+void showAsCategoriesArrive(const Scenario &scenario)
+{
+    Scenario::show();
+    QWidget *popup = PopupDriver::FindPopup();
+    verify(QTest::qWaitForWindowActive(popup), "the popup is active");
+    const PopupDriver driver(popup);
+    verify(driver.Tabs()->currentIndex() == 1, "Custom is shown");
+    QWidget *list = driver.List("ListFormat");
+    Test::ClickAt(list, list->rect().center());
+    verify(list->hasFocus(), "the list has the focus");
+    scenario.setUp();
+    Scenario::wait();
+    int requests = 0;
+    const auto request = [&] {
+        if (requests++ == 0)
+            Scenario::show();
+    };
+    const QMetaObject::Connection connection = QObject::connect(qApp, &QApplication::focusChanged,
+                                                                qApp, request);
+    Scenario::handleEvents();
+    QObject::disconnect(connection);
+    verify(requests > 0, "the focus has moved");
+}
+
 void takeUpAFailureDuringALoad(const Scenario &scenario, int delay)
 {
     scenario.enlarge(2);
@@ -180,6 +206,7 @@ const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
         { u"failure, then a good load"_s, loadAfterAFailure },
         { u"failure that is taken up while a good load ends"_s,
           loadThatEndsWhileAFailureIsTakenUp },
+        { u"show as the categories arrive"_s, showAsCategoriesArrive },
         { u"a second load"_s, loadAgain },
     };
     return all;

@@ -3,6 +3,7 @@
 #include "RowClicks.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
+#include "TreeBuilder.h"
 
 #include "IOLAppSettings.h"
 #include "IOLFmtPresetDataSource.h"
@@ -14,6 +15,7 @@
 #include "RPFmtSelectionDlg.h"
 
 #include <QInputDialog>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -66,6 +68,36 @@ public:
     Test::PopupDriver driver;
     QList<Report> reports;
     bool wasVisibleWhenReporting = false;
+};
+
+// Gives a tree this many categories, by removing its last ones or adding others, for the scope.
+class CategoryCount
+{
+public:
+    CategoryCount(std::shared_ptr<IOLFormatNode> root, int count)
+        : m_root(std::move(root))
+    {
+        for (int i = 0; i < m_root->ChildCount(); ++i)
+            m_before.append(m_root->ChildAt(i));
+        while (m_root->ChildCount() > count)
+            m_root->RemoveChildAt(m_root->ChildCount() - 1);
+        while (m_root->ChildCount() < count)
+            m_root->AppendChild(Test::MakeNode("Added", "", 1003));
+    }
+
+    ~CategoryCount()
+    {
+        while (m_root->ChildCount() > 0)
+            m_root->RemoveChildAt(0);
+        for (const auto &category : m_before)
+            m_root->AppendChild(category);
+    }
+
+    Q_DISABLE_COPY_MOVE(CategoryCount)
+
+private:
+    std::shared_ptr<IOLFormatNode> m_root;
+    QList<std::shared_ptr<IOLFormatNode>> m_before;
 };
 
 // Runs act once the editing dialog is open.
@@ -178,6 +210,32 @@ private Q_SLOTS:
             QVERIFY(tabs->tabIcon(i).cacheKey() != before[i]);
     }
 
+    void newArtworkGivesCustomItsIconWhateverTheHostDidToTheTree_data()
+    {
+        QTest::addColumn<int>("categories");
+        QTest::newRow("no category left") << 0;
+        QTest::newRow("one category removed") << 1;
+        QTest::newRow("one category added") << 3;
+        QTest::newRow("two categories added") << 4;
+    }
+
+    void newArtworkGivesCustomItsIconWhateverTheHostDidToTheTree()
+    {
+        QFETCH(const int, categories);
+        OpenPopup open;
+        const auto root = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode();
+        const CategoryCount changed(root, categories);
+        const qint64 before = open.driver.Tabs()->tabIcon(3).cacheKey();
+        description.Load();
+        open.popup.OnArtworkRenewed();
+        QCOMPARE(open.driver.TabTexts(),
+                 QStringList({ u"Recent"_s, u"Video"_s, u"Audio"_s, u"Custom"_s }));
+        const QIcon custom = open.driver.Tabs()->tabIcon(3);
+        QVERIFY(custom.cacheKey() != before);
+        const QImage icon = custom.pixmap(18, 18).toImage();
+        QCOMPARE(icon.pixel(icon.rect().center()), Test::SampleDescription::ColorOf(2).rgb());
+    }
+
     void leavingRecentDropsItsSearch()
     {
         OpenPopup open;
@@ -219,6 +277,27 @@ private Q_SLOTS:
         QCOMPARE(open.reports, QList<Report>({ { u"MP4"_s, QString() } }));
         QVERIFY(IOLFmtPresetDataSource::Shared()->GetRecentItems().empty());
         QCOMPARE(IOLAppSettings::Shared()->Value("recent_format_preset"), before);
+    }
+
+    void choiceThatCannotBeRecordedLeavesTheRecentChoicesAsTheyAre()
+    {
+        OpenPopup open;
+        const auto *page = qobject_cast<RPFmtNodeWdg *>(open.driver.Tabs()->currentWidget());
+        for (int row = 0; row < 2; ++row) {
+            open.driver.ClickRow("ListFormat", row);
+            open.open();
+        }
+        open.driver.SwitchTab(u"Recent"_s);
+        QListWidget *recent = open.driver.List("lwRecentList");
+        recent->setCurrentRow(1);
+        const QPointer<QWidget> row = recent->itemWidget(recent->item(0));
+        IOLAppSettings::Shared()->SetValue("not saved over", "recent_format_preset");
+
+        page->formatSelected(IOLFormatPreset::MallocFormatPreset("MP4", ""), nullptr);
+        QCOMPARE(open.reports.last(), Report({ u"MP4"_s, QString() }));
+        QCOMPARE(storedValue("recent_format_preset"), u"not saved over"_s);
+        QCOMPARE(recent->itemWidget(recent->item(0)), row);
+        QCOMPARE(recent->currentRow(), 1);
     }
 
     void clickOnAPresetReportsItWithItsFormat()

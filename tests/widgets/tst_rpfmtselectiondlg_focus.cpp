@@ -1,11 +1,10 @@
-#include "PopupDriver.h"
 #include "SampleDescription.h"
+#include "SelectionScene.h"
 #include "TestCase.h"
 
 #include "IOLFmtPresetDataSource.h"
 #include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
-#include "RPFmtSelectionDlg.h"
 
 #include <QDialog>
 #include <QScrollBar>
@@ -20,47 +19,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QRect anchor(20, 20, 100, 30);
+using Scene = Test::SelectionScene;
 
-// A host's window and the popup, which is shown and active.
-class Scene
+constexpr QRect anchor = Scene::anchor;
+
+// The search box, or the list of this name on the current page.
+QWidget *childOf(const Scene &scene, const QString &name)
 {
-public:
-    Scene()
-        : driver(&popup)
-    {
-        host.resize(200, 100);
-        host.show();
-        open();
-    }
+    if (name == "search box"_L1)
+        return scene.driver.SearchBox();
+    return scene.driver.List(name.toLatin1().constData());
+}
 
-    void open()
-    {
-        activateHost();
-        popup.ShowPopup(counter(), anchor);
-        QTRY_VERIFY(popup.isActiveWindow());
-    }
-
-    void activateHost()
-    {
-        host.activateWindow();
-        QTRY_VERIFY(host.isActiveWindow());
-    }
-
-    RPFmtSelectionDlg::Callback counter()
-    {
-        return [this](const std::shared_ptr<const IOLFormatPreset> &preset,
-                      const std::shared_ptr<const IOLFormatNode> &) {
-            ++(preset ? choices : closings);
-        };
-    }
-
-    QWidget host;
-    RPFmtSelectionDlg popup;
-    Test::PopupDriver driver;
-    int choices = 0;
-    int closings = 0;
-};
+// Gives the widget the focus as a click does that changes nothing else.
+void focusByMouse(QWidget *widget)
+{
+    QCursor::setPos(widget->mapToGlobal(widget->rect().center()));
+    widget->setFocus(Qt::MouseFocusReason);
+    QCOMPARE(QApplication::focusWidget(), widget);
+}
 
 void turnWheel(QWidget *widget, int steps)
 {
@@ -112,26 +89,28 @@ private Q_SLOTS:
 
     void anotherWindowClosesThePopupWhoseChildHasTheFocus_data()
     {
+        QTest::addColumn<QString>("tab");
         QTest::addColumn<QString>("child");
-        QTest::newRow("search box") << QString();
-        QTest::newRow("formats") << u"ListNode"_s;
-        QTest::newRow("presets") << u"ListFormat"_s;
+        QTest::newRow("search box") << u"Video"_s << u"search box"_s;
+        QTest::newRow("recent choices") << u"Recent"_s << u"lwRecentList"_s;
+        QTest::newRow("formats") << u"Video"_s << u"ListNode"_s;
+        QTest::newRow("presets") << u"Video"_s << u"ListFormat"_s;
+        QTest::newRow("custom formats") << u"Custom"_s << u"ListNode"_s;
+        QTest::newRow("custom presets") << u"Custom"_s << u"ListFormat"_s;
     }
 
     void anotherWindowClosesThePopupWhoseChildHasTheFocus()
     {
+        QFETCH(const QString, tab);
         QFETCH(const QString, child);
         Scene scene;
-        QWidget *widget = scene.driver.SearchBox();
-        if (!child.isEmpty())
-            widget = scene.driver.List(child.toLatin1().constData());
-        QCursor::setPos(widget->mapToGlobal(widget->rect().center()));
-        widget->setFocus(Qt::MouseFocusReason);
-        QCOMPARE(QApplication::focusWidget(), widget);
+        scene.driver.SwitchTab(tab);
+        focusByMouse(childOf(scene, child));
         QVERIFY(scene.popup.isVisible());
         scene.host.activateWindow();
         QTRY_VERIFY(!scene.popup.isVisible());
         QCOMPARE(scene.closings, 1);
+        QCOMPARE(scene.choices, 0);
     }
 
     void mouseInsideThePopupKeepsItOpen()
@@ -197,6 +176,43 @@ private Q_SLOTS:
         turnWheel(scene.driver.Tabs()->tabBar(), 1);
         QCOMPARE(tabs.at(scene.driver.Tabs()->currentIndex()), u"Custom"_s);
         turnWheel(scene.driver.Tabs()->tabBar(), -3);
+        QVERIFY(scene.popup.isVisible());
+        QCOMPARE(scene.closings, 0);
+
+        scene.host.activateWindow();
+        QTRY_VERIFY(!scene.popup.isVisible());
+        QCOMPARE(scene.closings, 1);
+    }
+
+    void changingTheTabByTheKeyboardKeepsThePopupOpen_data()
+    {
+        QTest::addColumn<QString>("child");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<QString>("tab");
+        for (const char *child : { "search box", "ListNode", "ListFormat" }) {
+            const QString name = QString::fromLatin1(child);
+            QTest::addRow("%s, forwards", child)
+                    << name << Qt::Key_Tab << Qt::KeyboardModifiers(Qt::ControlModifier)
+                    << u"Audio"_s;
+            QTest::addRow("%s, backwards", child)
+                    << name << Qt::Key_Backtab << (Qt::ControlModifier | Qt::ShiftModifier)
+                    << u"Recent"_s;
+        }
+    }
+
+    void changingTheTabByTheKeyboardKeepsThePopupOpen()
+    {
+        QFETCH(const QString, child);
+        QFETCH(const Qt::Key, key);
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        QFETCH(const QString, tab);
+        Scene scene;
+        scene.driver.TypeSearch(u"1080"_s);
+        focusByMouse(childOf(scene, child));
+        QTest::keyClick(scene.popup.windowHandle(), key, modifiers);
+        QCOMPARE(scene.driver.TabTexts().at(scene.driver.Tabs()->currentIndex()), tab);
+        QVERIFY(scene.driver.SearchBox()->text().isEmpty());
         QVERIFY(scene.popup.isVisible());
         QCOMPARE(scene.closings, 0);
 
