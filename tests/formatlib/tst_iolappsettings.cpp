@@ -227,17 +227,17 @@ private Q_SLOTS:
         QDir().mkpath(QFileInfo(FilePath()).path());
         const QString kept = FilePath() + QStringLiteral(".unreadable");
         Create(kept, "first\n");
-        for (const char *content : { "first\n", "second\n", "second\n" }) {
+        for (const char *content : { "first\n", "other\n", "other\n" }) { // of the same size
             Create(FilePath(), content);
             const bool isNew = !QFileInfo::exists(kept + QStringLiteral("-2"))
-                    && qstrcmp(content, "second\n") == 0;
+                    && qstrcmp(content, "other\n") == 0;
             if (isNew)
                 ExpectMessage(kept + QStringLiteral("-2"));
             IOLAppSettings::Shared()->SetValue(content, "key");
             IOLAppSettings::Shared()->Save();
         }
         QCOMPARE(Content(kept), QByteArray("first\n"));
-        QCOMPARE(Content(kept + QStringLiteral("-2")), QByteArray("second\n"));
+        QCOMPARE(Content(kept + QStringLiteral("-2")), QByteArray("other\n"));
         QVERIFY(!QFileInfo::exists(kept + QStringLiteral("-3")));
     }
 
@@ -255,6 +255,26 @@ private Q_SLOTS:
         ExpectMessage(FilePath() + QStringLiteral(".unreadable"));
         IOLAppSettings::Shared()->Save();
         QCOMPARE(Content(FilePath() + QStringLiteral(".unreadable")), content);
+    }
+
+    // A link to nowhere stands where the file is to be kept: it is not there, and cannot be made.
+    void aDamagedFileWhosePlaceIsTakenStaysAsItIs()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        const QString kept = FilePath() + QStringLiteral(".unreadable");
+        Create(FilePath(), "noise\n");
+        QVERIFY(QFile::link(m_folder->filePath(QStringLiteral("nowhere")), kept));
+        IOLAppSettings::Shared()->SetValue("ours", "key");
+        ExpectFailedSave();
+        QCOMPARE(Content(FilePath()), QByteArray("noise\n"));
+        QCOMPARE(IOLAppSettings::Shared()->Value("key"), std::string("ours"));
+        QVERIFY(QFileInfo(kept).isSymLink());
+
+        QVERIFY(QFile::remove(kept));
+        ExpectMessage(kept);
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(kept), QByteArray("noise\n"));
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=ours\n"));
     }
 
     void aValueThatIsNoTextIsKeptUnderAnotherKey()

@@ -7,10 +7,14 @@
 #include <QProcess>
 #include <QRandomGenerator>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 
 using Orlimo::IOLAppSettings;
 
@@ -135,13 +139,18 @@ private:
         return process;
     }
 
-    // Returns what the process said until it was killed, at any moment after it has saved number.
+    // Returns what the process said until it was killed: after it has saved number, at any moment
+    // of the time that a save takes, as the file is replaced at the end of it.
     static QByteArray killAfter(QProcess &process, int number, QRandomGenerator &random)
     {
         QByteArray output;
+        QElapsedTimer timer;
+        timer.start();
         while (LastNumber(output, "end ") < number && process.waitForReadyRead())
             output += process.readAllStandardOutput();
-        QTest::qWait(random.bounded(10));
+        const qint64 saves = std::max<qint64>(1, output.count("end "));
+        const std::chrono::nanoseconds saveTime(timer.nsecsElapsed() / saves);
+        std::this_thread::sleep_for(random.bounded(qint64(100)) * saveTime / 100);
         process.kill();
         process.waitForFinished();
         return output + process.readAllStandardOutput();

@@ -1,0 +1,57 @@
+#include "WithoutRights.h"
+
+#include <QtGlobal>
+
+#include <grp.h>
+#include <unistd.h>
+
+#include <type_traits>
+
+namespace Test {
+
+namespace {
+
+static_assert(std::is_same_v<gid_t, unsigned>);
+
+constexpr uid_t root = 0;
+constexpr uid_t nobody = 65534;
+
+std::vector<gid_t> Groups()
+{
+    std::vector<gid_t> groups(static_cast<std::size_t>(getgroups(0, nullptr)));
+    getgroups(static_cast<int>(groups.size()), groups.data());
+    return groups;
+}
+
+// The saved ids stay root's, which permissions do not look at: they are the way back.
+bool GiveUpRights()
+{
+    return setgroups(0, nullptr) == 0 && setresgid(nobody, nobody, root) == 0
+            && setresuid(nobody, nobody, root) == 0;
+}
+
+bool TakeRightsBack(const std::vector<gid_t> &groups)
+{
+    return setresuid(root, root, root) == 0 && setresgid(root, root, root) == 0
+            && setgroups(groups.size(), groups.data()) == 0;
+}
+
+} // namespace
+
+WithoutRights::WithoutRights()
+    : m_isRoot(geteuid() == root)
+{
+    if (!m_isRoot)
+        return;
+    m_groups = Groups();
+    if (!GiveUpRights())
+        qFatal("cannot give up the rights of root");
+}
+
+WithoutRights::~WithoutRights()
+{
+    if (m_isRoot && !TakeRightsBack(m_groups))
+        qFatal("cannot take back the rights of root");
+}
+
+} // namespace Test

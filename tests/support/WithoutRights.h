@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+namespace Test {
+
+// While it lives, every thread of a process that is root's has only the rights that any other user
+// has, so that permissions hold for it as well; a process of another user stays as it is. What such
+// a process may write to, as a temporary folder, is made after the object.
+class WithoutRights
+{
+public:
+    WithoutRights();
+    WithoutRights(const WithoutRights &) = delete;
+    WithoutRights &operator=(const WithoutRights &) = delete;
+    ~WithoutRights();
+
+private:
+    const bool m_isRoot;
+    std::vector<unsigned> m_groups;
+};
+
+} // namespace Test
