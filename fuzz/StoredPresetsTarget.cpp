@@ -69,6 +69,7 @@ void StoredPresets(QByteArrayView input)
     OLFmtPresetDataSource before;
     Save(before);
 
+    RequireSameTree(before.GetCustomFormatNode(), LoadPresetNode(OLCustomPresetsKey));
     OLFmtPresetDataSource after;
     RequireSameItems(before.GetRecentItems(), after.GetRecentItems());
     RequireSameTree(before.GetCustomFormatNode(), after.GetCustomFormatNode());
