@@ -21,7 +21,7 @@ pictures=
 host_pid=
 host_in=
 host_out=
-helpers=()
+background=()
 choices=()  # every choice that the host printed
 expected=() # those that the steps so far call for
 step_number=0
@@ -109,11 +109,11 @@ start_screen() {
     local server number
     exec {server}< <(exec Xvfb -displayfd 1 -screen 0 "${screen_width}x${screen_height}x24" \
         -nolisten tcp -noreset 2>"$work/server.log")
-    helpers+=($!)
+    background+=($!)
     read -r -t "$patience" number <&"$server" || fail "the virtual screen does not start"
     export DISPLAY=:$number
     openbox --sm-disable >"$work/openbox.log" 2>&1 &
-    helpers+=($!)
+    background+=($!)
     wait_until "the window manager runs" has_window_manager
     say "Virtual screen $DISPLAY, $screen_width x $screen_height"
 }
@@ -126,12 +126,12 @@ has_window_manager() {
 stop_screen() {
     local pid
     [[ -z $host_pid ]] || kill "$host_pid" 2>/dev/null || true
-    for pid in "${helpers[@]}"; do
+    for pid in "${background[@]}"; do
         kill "$pid" 2>/dev/null || true
     done
     wait
     host_pid=
-    helpers=()
+    background=()
 }
 
 # shellcheck disable=SC2317 # called by the trap
@@ -143,7 +143,7 @@ stop_driver() {
 # start_other_window: a window of another application, in the lower right corner.
 start_other_window() {
     xev -geometry 200x200+1040+560 >/dev/null 2>&1 &
-    helpers+=($!)
+    background+=($!)
     wait_until "the other window is shown" has_other_window
 }
 

@@ -123,6 +123,17 @@ private Q_SLOTS:
         QCOMPARE(storedValue("second"), ValueOf(saves));
     }
 
+    void twoProcessesThatSaveOneValueLeaveAWholeOne()
+    {
+        const auto first = start("both", 1, 60);
+        const auto second = start("both", 101, 160);
+        QVERIFY(first->waitForFinished());
+        QVERIFY(second->waitForFinished());
+        QCOMPARE(first->readAllStandardError() + second->readAllStandardError(), QByteArray());
+        const auto stored = storedValue("both");
+        QVERIFY(stored == ValueOf(60) || stored == ValueOf(160));
+    }
+
 private:
     // Every test has a folder of its own.
     void prepare() override { m_folder.emplace(); }
