@@ -31,14 +31,14 @@ public:
     virtual void SetValue(std::string value, std::string key) = 0;
 
     /// Returns the text under @p key: the one last set, else the stored one, else an empty text. A
-    /// stored value that is no text, or no valid UTF-8, counts as none.
+    /// stored value that is no text counts as none.
     virtual std::string Value(std::string key) const = 0;
 
     /// Writes what was set since the last successful call. The file is replaced as a whole: after a
     /// failure, which logs one line with the file and the reason, it holds what it held before, and
     /// the next call tries again.
     ///
-    /// Nothing that others wrote is lost: a file that is no INI file, or only in part, is kept
+    /// Nothing that others wrote is lost: a file that is no INI file in UTF-8, or only in part, is kept
     /// beside it under its name with ".unreadable" behind (and a number where that is taken), which
     /// is logged. A stored value that is no text is kept under "unreadable/" and its key, followed
     /// by "_2" to "_9" where that is taken; of more such values the last key holds the newest.

@@ -43,12 +43,20 @@ std::string NormalKey(const std::string &key)
     return normal;
 }
 
+// QSettings would write the replacement character for each byte that is no UTF-8.
+bool IsUtf8(const QString &path)
+{
+    QFile file(path);
+    return !file.exists()
+            || (file.open(QIODevice::ReadOnly) && QUtf8StringView(file.readAll()).isValidUtf8());
+}
+
 // QSettings tells so of a file that it has not seen before, and once it has parsed all of it.
 bool IsDamaged(const QString &path)
 {
     const QSettings settings(path, QSettings::IniFormat);
     settings.allKeys();
-    return settings.status() == QSettings::FormatError;
+    return settings.status() == QSettings::FormatError || !IsUtf8(path);
 }
 
 bool HaveSameContent(const QString &path, const QString &other)

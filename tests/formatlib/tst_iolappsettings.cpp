@@ -206,6 +206,8 @@ private Q_SLOTS:
         QTest::newRow("no settings") << QByteArray("no settings\n");
         QTest::newRow("noise") << QByteArray("\x7f\x00\xff[\n=\n\x80", 8);
         QTest::newRow("settings before noise") << QByteArray("[General]\nkey=a\nnoise\n");
+        QTest::newRow("Latin-1") << QByteArray("[General]\nother=Gr\xfc\xdf"
+                                               "e\n");
     }
 
     void saveKeepsAFileThatIsNotSettingsAside()
