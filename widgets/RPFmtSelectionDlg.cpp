@@ -171,7 +171,6 @@ void RPFmtSelectionDlg::ShowPopup(Callback callback, const QRect &anchor)
     requestedShow = nullptr;
     selectCallback = std::move(callback);
     selecting = false;
-    switchingPage = false;
     const auto post = qScopeGuard([this] { PostRequestedShow(); });
     const QScopedValueRollback quiet(changingVisibility, true);
     if (!isVisible()) {

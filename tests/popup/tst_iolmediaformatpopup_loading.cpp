@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <utility>
 
 using namespace Orlimo;
 using namespace Qt::StringLiterals;
@@ -132,16 +133,20 @@ void showAsCategoriesArrive(const Scenario &scenario)
     verify(list->hasFocus(), "the list has the focus");
     scenario.setUp();
     Scenario::wait();
-    int requests = 0;
+    bool requested = false;
+    bool reported = false;
     const auto request = [&] {
-        if (requests++ == 0)
-            Scenario::show();
+        if (!std::exchange(requested, true)) {
+            IOLMediaFormatPopup::Shared()->ShowFormatPopup({ 10, 10, 20, 20 },
+                                                           [&](auto, auto) { reported = true; });
+        }
     };
     const QMetaObject::Connection connection = QObject::connect(qApp, &QApplication::focusChanged,
                                                                 qApp, request);
     Scenario::handleEvents();
     QObject::disconnect(connection);
-    verify(requests > 0, "the focus has moved");
+    verify(requested, "the focus has moved");
+    verify(popup->isVisible() && !reported, "the popup stays open for the request");
 }
 
 void takeUpAFailureDuringALoad(const Scenario &scenario, int delay)

@@ -12,6 +12,7 @@
 #include <QWindow>
 
 #include <functional>
+#include <utility>
 
 using namespace Orlimo;
 using namespace Qt::StringLiterals;
@@ -51,6 +52,30 @@ public:
     }
 
     bool hasAsked = false;
+};
+
+// A host that asks for the popup for another callback, once, as soon as it sees it being shown.
+class ImpatientHost : public QObject
+{
+public:
+    ImpatientHost(RPFmtSelectionDlg &popup, RPFmtSelectionDlg::Callback callback)
+        : m_popup(popup)
+        , m_callback(std::move(callback))
+    {
+        popup.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && !std::exchange(m_hasAsked, true))
+            m_popup.ShowPopup(m_callback, Scene::anchor);
+        return false;
+    }
+
+private:
+    RPFmtSelectionDlg &m_popup;
+    RPFmtSelectionDlg::Callback m_callback;
+    bool m_hasAsked = false;
 };
 
 // What closes the popup.
@@ -163,6 +188,24 @@ private Q_SLOTS:
         QTRY_VERIFY(!scene.popup.isVisible());
         QCOMPARE(last, Reports(u"nothing"_s));
         QCOMPARE(earlier, Reports());
+    }
+
+    void requestWhileThePopupIsBeingShownCounts()
+    {
+        Scene scene;
+        scene.activateHost();
+        QTRY_VERIFY(!scene.popup.isVisible());
+        Reports first;
+        Reports last;
+        const ImpatientHost host(scene.popup, appendingTo(last));
+        scene.popup.ShowPopup(appendingTo(first), Scene::anchor);
+        QTRY_VERIFY(scene.popup.isActiveWindow());
+        QCoreApplication::processEvents();
+
+        scene.activateHost();
+        QTRY_VERIFY(!scene.popup.isVisible());
+        QCOMPARE(last, Reports(u"nothing"_s));
+        QCOMPARE(first, Reports());
     }
 
     void callbackIsKeptUntilThePopupOpensForAnother_data() { addClosings(); }
