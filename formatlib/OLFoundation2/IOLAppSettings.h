@@ -38,11 +38,11 @@ public:
     /// failure, which logs one line with the file and the reason, it holds what it held before, and
     /// the next call tries again.
     ///
-    /// Nothing that others wrote is lost: a file that is no INI file in UTF-8, or only in part, is
-    /// kept beside it under its name with ".unreadable" behind (and a number where that is taken),
-    /// which is logged. A stored value that is no text is kept under "unreadable/" and its key,
-    /// followed by "_2" to "_9" where that is taken; of more such values the last key holds the
-    /// newest.
+    /// Values of other keys stay, but for those of types that QSettings does not know in this
+    /// program. A file that is no INI file in UTF-8, or only in part, is kept beside it under its
+    /// name with ".unreadable" behind (and a number where that is taken), which is logged. A stored
+    /// value that is no text is kept under "unreadable/" and its key, followed by "_2" to "_9"
+    /// where that is taken; of more such values the last key holds the newest.
     virtual void Save() = 0;
 
 protected:
