@@ -7,15 +7,18 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace Orlimo {
 
 namespace {
 
 constexpr int cloneAttributes = 1;
+constexpr std::size_t longestShortKeyword = 32;
 
-// A keyword, found by the algorithm of Knuth, Morris and Pratt: in a time that grows with the text
-// only, however much keyword and text repeat themselves.
+// A long keyword is found by the algorithm of Knuth, Morris and Pratt: in a time that grows with
+// the text only, however much keyword and text repeat themselves. For a short one the standard
+// library is faster, and cannot lose more time than its length allows.
 class Keyword
 {
 public:
@@ -38,6 +41,8 @@ public:
 private:
     bool OccursIn(const std::string &foldedText) const
     {
+        if (m_folded.size() <= longestShortKeyword)
+            return foldedText.find(m_folded) != std::string::npos;
         std::size_t matched = 0;
         for (const char c : foldedText) {
             matched = Extended(matched, c);
@@ -60,30 +65,49 @@ private:
     std::vector<std::size_t> m_borders;
 };
 
-bool IsEmpty(const IOLFormatNode &node)
+// The result of the search in one node, which is made for its first match.
+class MatchesOf
 {
-    return node.PresetCount() == 0 && node.ChildCount() == 0;
-}
+public:
+    explicit MatchesOf(const IOLFormatNode &node)
+        : m_node(node)
+    {
+    }
 
-std::shared_ptr<IOLFormatNode> MatchingTree(IOLFormatNode &node, const Keyword &keyword)
+    void Add(std::shared_ptr<IOLFormatPreset> preset) { Copy().AddPreset(std::move(preset)); }
+    void Add(std::shared_ptr<IOLFormatNode> child) { Copy().AppendChild(std::move(child)); }
+
+    // Empty where nothing matched.
+    std::shared_ptr<IOLFormatNode> Take() { return std::move(m_copy); }
+
+private:
+    IOLFormatNode &Copy()
+    {
+        if (!m_copy)
+            m_copy = m_node.Clone(cloneAttributes);
+        return *m_copy;
+    }
+
+    const IOLFormatNode &m_node;
+    std::shared_ptr<IOLFormatNode> m_copy;
+};
+
+std::shared_ptr<IOLFormatNode> MatchesBelow(IOLFormatNode &node, const Keyword &keyword)
 {
-    auto result = node.Clone(cloneAttributes);
+    MatchesOf matches(node);
     for (int i = 0; i < node.PresetCount(); ++i) {
         const auto preset = node.PresetAt(i);
         if (keyword.Matches(*preset))
-            result->AddPreset(preset->Clone());
+            matches.Add(preset->Clone());
     }
     for (int i = 0; i < node.ChildCount(); ++i) {
         const auto child = node.ChildAt(i);
-        if (keyword.Matches(child->Name())) {
-            result->AppendChild(child->Clone(IOLFormatNode::CloneAll));
-            continue;
-        }
-        const auto below = MatchingTree(*child, keyword);
-        if (!IsEmpty(*below))
-            result->AppendChild(below);
+        if (keyword.Matches(child->Name()))
+            matches.Add(child->Clone(IOLFormatNode::CloneAll));
+        else if (auto below = MatchesBelow(*child, keyword))
+            matches.Add(std::move(below));
     }
-    return result;
+    return matches.Take();
 }
 
 } // namespace
@@ -104,7 +128,8 @@ std::vector<std::shared_ptr<IOLFmtPresetRecentItem>> MatchingRecentItems(
 
 std::shared_ptr<IOLFormatNode> MatchingTree(IOLFormatNode &node, const std::string &foldedKeyword)
 {
-    return MatchingTree(node, Keyword(foldedKeyword));
+    const auto matches = MatchesBelow(node, Keyword(foldedKeyword));
+    return matches ? matches : node.Clone(cloneAttributes);
 }
 
 } // namespace Orlimo
