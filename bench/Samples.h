@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+namespace Bench {
+
+// Where the measures keep their files; it goes with the process.
+const QTemporaryDir &Folder();
+
+void WriteFile(const QString &path, const QByteArray &bytes);
+QByteArray Contents(const QString &path);
+
+// The path of the generated description of so many presets, made when it is first asked for.
+QString DescriptionPath(int presets);
+
+} // namespace Bench
