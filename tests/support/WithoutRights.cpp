@@ -39,19 +39,24 @@ bool TakeRightsBack(const std::vector<gid_t> &groups)
 } // namespace
 
 WithoutRights::WithoutRights()
-    : m_isRoot(geteuid() == root)
 {
-    if (!m_isRoot)
+    if (geteuid() != root)
         return;
     m_groups = Groups();
-    if (!GiveUpRights())
-        qFatal("cannot give up the rights of root");
+    m_gaveUp = GiveUpRights();
+    if (!m_gaveUp)
+        TakeRightsBack(m_groups);
 }
 
 WithoutRights::~WithoutRights()
 {
-    if (m_isRoot && !TakeRightsBack(m_groups))
+    if (m_gaveUp && !TakeRightsBack(m_groups))
         qFatal("cannot take back the rights of root");
+}
+
+bool WithoutRights::PermissionsHold()
+{
+    return geteuid() != root;
 }
 
 } // namespace Test

@@ -15,8 +15,11 @@ public:
     WithoutRights &operator=(const WithoutRights &) = delete;
     ~WithoutRights();
 
+    // Whether they hold now; not for a root that this machine does not let become another user.
+    static bool PermissionsHold();
+
 private:
-    const bool m_isRoot;
+    bool m_gaveUp = false;
     std::vector<unsigned> m_groups;
 };
 
