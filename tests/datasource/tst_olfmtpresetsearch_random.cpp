@@ -82,6 +82,33 @@ public:
         return result;
     }
 
+    // Few letters, which repeat themselves as beginnings of a keyword do within it.
+    Text repetitions()
+    {
+        Text result;
+        while (result.lower.size() < 200) {
+            std::string word;
+            for (int i = upTo(2); i >= 0; --i)
+                word += upTo(1) == 0 ? 'a' : 'b';
+            for (int i = upTo(20); i >= 0; --i)
+                result.lower += word;
+        }
+        result.text = result.lower;
+        return result;
+    }
+
+    // A part of the text, perhaps with another letter somewhere.
+    Text partOf(const Text &whole, std::size_t length)
+    {
+        Text part;
+        part.lower = whole.lower.substr(std::size_t(upTo(int(whole.lower.size() - length))),
+                                        length);
+        if (upTo(1) == 0)
+            part.lower[std::size_t(upTo(int(length) - 1))] = upTo(1) == 0 ? 'a' : 'b';
+        part.text = part.lower;
+        return part;
+    }
+
     PlainNode tree(int depth)
     {
         PlainNode node { text(0, 4), text(0, 4), upTo(3), {}, {} };
@@ -143,6 +170,7 @@ class tst_OLFmtPresetSearch_Random : public Test::TestCase
 private Q_SLOTS:
     void theSearchFollowsItsRulesInAnyTree_data();
     void theSearchFollowsItsRulesInAnyTree();
+    void longKeywordsAreFoundAsShortOnesAre();
 };
 
 void tst_OLFmtPresetSearch_Random::theSearchFollowsItsRulesInAnyTree_data()
@@ -166,6 +194,29 @@ void tst_OLFmtPresetSearch_Random::theSearchFollowsItsRulesInAnyTree()
         QVERIFY2(FromNode(*result) == Expected(plain, keyword), keyword.text.c_str());
     }
     QVERIFY(FromNode(*tree) == plain);
+}
+
+void tst_OLFmtPresetSearch_Random::longKeywordsAreFoundAsShortOnesAre()
+{
+    Generator generator(1);
+    OLFmtPresetDataSource dataSource;
+    int found = 0;
+    int missed = 0;
+    for (int round = 0; round < 300; ++round) {
+        PlainNode plain;
+        for (int i = 0; i < 20; ++i)
+            plain.presets.push_back({ generator.repetitions(), {} });
+        for (std::size_t length = 30; length <= 40; ++length) {
+            const Text keyword = generator.partOf(plain.presets.front().name, length);
+            const Node result = dataSource.SearchFormatNode(ToNode(plain), keyword.text, nullptr);
+            const PlainNode expected = Expected(plain, keyword);
+            QVERIFY2(FromNode(*result) == expected, keyword.text.c_str());
+            found += int(expected.presets.size());
+            missed += int(plain.presets.size() - expected.presets.size());
+        }
+    }
+    QVERIFY(found > 1000);
+    QVERIFY(missed > 1000);
 }
 
 ORLIMO_TEST_MAIN(tst_OLFmtPresetSearch_Random)
