@@ -86,8 +86,9 @@ double HeapInUse()
 
 Comparison MeasureMemory(int presets)
 {
+    const QString path = DescriptionPath(presets);
     const double before = HeapInUse();
-    const NodePointer root = Load(DescriptionPath(presets));
+    const NodePointer root = Load(path);
     const double used = HeapInUse() - before;
     double texts = 0;
     ForEachText(*root, [&](const std::string &text) { texts += double(text.size()); });

@@ -59,8 +59,9 @@ Comparison MeasureFilling(int rows)
 class BareRow final : public QWidget
 {
 public:
-    explicit BareRow(QIcon icon)
+    BareRow(QIcon icon, QIcon action)
         : m_icon(std::move(icon))
+        , m_action(std::move(action))
     {
     }
 
@@ -72,10 +73,12 @@ protected:
         painter.drawText(NodeTitleBox(rect()), Qt::AlignVCenter | Qt::TextSingleLine, u"MP4"_s);
         painter.drawText(DescriptionBox(rect(), 200), Qt::AlignVCenter | Qt::TextSingleLine,
                          u"H.264, 1920 x 1080"_s);
+        m_action.paint(&painter, RowActionBox(rect()));
     }
 
 private:
     QIcon m_icon;
+    QIcon m_action;
 };
 
 void LoadArtwork()
@@ -105,7 +108,9 @@ Comparison MeasureHoveredRow()
     RPFmtItemDataWdg ours(nullptr);
     ours.preset = SamplePreset();
     ours.hovered = true;
-    BareRow other(IOLFmtPresetDataSource::Shared()->GetArtworkGroup(faceID)->Icon());
+    const QIcon icon = IOLFmtPresetDataSource::Shared()->GetArtworkGroup(faceID)->Icon();
+    ours.actionIcon = icon;
+    BareRow other(icon, icon);
     for (QWidget *widget : { static_cast<QWidget *>(&ours), static_cast<QWidget *>(&other) }) {
         widget->resize(400, OLRowHeight);
         widget->show();
