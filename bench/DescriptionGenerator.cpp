@@ -3,7 +3,9 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Bench {
 
@@ -19,64 +21,22 @@ int PresetCount(const QJsonObject &node)
     return count;
 }
 
-QJsonObject RandomElement(const QJsonArray &array, QRandomGenerator &random)
+QJsonArray Shuffled(const QJsonArray &array, QRandomGenerator &random)
 {
-    return array[random.bounded(static_cast<int>(array.size()))].toObject();
+    QJsonArray shuffled = array;
+    for (qsizetype i = shuffled.size() - 1; i > 0; --i) {
+        const auto other = static_cast<qsizetype>(random.bounded(static_cast<int>(i) + 1));
+        const QJsonValue value = shuffled[i];
+        shuffled[i] = shuffled[other];
+        shuffled[other] = value;
+    }
+    return shuffled;
 }
-
-// Takes presets of a format of the shipped category one after the other, then of the next format.
-class CategoryFiller
-{
-public:
-    CategoryFiller(const QJsonObject &shipped, QRandomGenerator &random, int &number)
-        : m_formats(shipped["children"_L1].toArray())
-        , m_random(random)
-        , m_number(number)
-    {
-    }
-
-    QJsonArray Fill(int presets)
-    {
-        QJsonArray formats;
-        while (presets > 0) {
-            const QJsonObject format = Format(presets);
-            presets -= PresetCount(format);
-            formats.append(format);
-        }
-        return formats;
-    }
-
-private:
-    QJsonObject Format(int mostPresets)
-    {
-        QJsonObject format = RandomElement(m_formats, m_random);
-        QJsonArray presets;
-        for (const QJsonValue &shipped : format["presets"_L1].toArray()) {
-            if (presets.size() < mostPresets)
-                presets.append(Preset(shipped.toObject()));
-        }
-        format["name"_L1] = format["name"_L1].toString() + u' ' + QString::number(m_number);
-        format["presets"_L1] = presets;
-        return format;
-    }
-
-    QJsonObject Preset(QJsonObject preset)
-    {
-        ++m_number;
-        preset["name"_L1] = preset["name"_L1].toString() + u" #"_s + QString::number(m_number)
-                + (m_number % 100 == 0 ? u"%"_s : QString());
-        return preset;
-    }
-
-    QJsonArray m_formats;
-    QRandomGenerator &m_random;
-    int &m_number;
-};
 
 } // namespace
 
 DescriptionGenerator::DescriptionGenerator(quint32 seed)
-    : m_seed(seed)
+    : m_random(seed)
 {
     QFile file(QStringLiteral(SHIPPED_DESCRIPTION));
     if (!file.open(QIODevice::ReadOnly))
@@ -84,24 +44,54 @@ DescriptionGenerator::DescriptionGenerator(quint32 seed)
     m_shipped = QJsonDocument::fromJson(file.readAll()).object();
 }
 
-QByteArray DescriptionGenerator::Generate(int presets) const
+QByteArray DescriptionGenerator::Generate(int presets)
 {
-    QRandomGenerator random(m_seed);
     QJsonObject description = m_shipped;
     QJsonObject root = description["root"_L1].toObject();
-    const int shippedPresets = PresetCount(root);
+    const double times = double(presets) / PresetCount(root);
+    m_formatTimes = std::sqrt(times);
+    m_presets = 0;
     QJsonArray categories;
-    int number = 0;
+    double wanted = 0;
     for (const QJsonValue &value : root["children"_L1].toArray()) {
         QJsonObject category = value.toObject();
-        const int share = static_cast<int>(qint64(presets) * PresetCount(category)
-                                           / shippedPresets);
-        category["children"_L1] = CategoryFiller(category, random, number).Fill(share);
+        wanted += PresetCount(category) * times;
+        FillCategory(category, static_cast<int>(std::lround(wanted)));
         categories.append(category);
     }
     root["children"_L1] = categories;
     description["root"_L1] = root;
     return QJsonDocument(description).toJson(QJsonDocument::Compact);
+}
+
+// Adds presets until there are so many in all.
+void DescriptionGenerator::FillCategory(QJsonObject &category, int presetsInAll)
+{
+    const QJsonArray shipped = Shuffled(category["children"_L1].toArray(), m_random);
+    const int formatCount = std::max(1, int(std::lround(double(shipped.size()) * m_formatTimes)));
+    const int first = m_presets;
+    QJsonArray formats;
+    for (int i = 0; i < formatCount; ++i) {
+        QJsonObject format = shipped[i % shipped.size()].toObject();
+        format["name"_L1] = format["name"_L1].toString() + u' ' + QString::number(i + 1);
+        FillFormat(format, first + int(qint64(presetsInAll - first) * (i + 1) / formatCount));
+        formats.append(format);
+    }
+    category["children"_L1] = formats;
+}
+
+void DescriptionGenerator::FillFormat(QJsonObject &format, int presetsInAll)
+{
+    const QJsonArray shipped = Shuffled(format["presets"_L1].toArray(), m_random);
+    QJsonArray presets;
+    while (m_presets < presetsInAll) {
+        QJsonObject preset = shipped[presets.size() % shipped.size()].toObject();
+        ++m_presets;
+        preset["name"_L1] = preset["name"_L1].toString() + u" #"_s + QString::number(m_presets)
+                + (m_presets % 100 == 0 ? u"%"_s : QString());
+        presets.append(preset);
+    }
+    format["presets"_L1] = presets;
 }
 
 } // namespace Bench
