@@ -14,17 +14,20 @@ std::mutex codecMaking;
 
 } // namespace
 
-OLCodecList::OLCodecList(OLEncoderSetPointer set, int current, std::vector<OLEncoderChoice> choices)
+OLCodecList::OLCodecList(OLEncoderSetPointer set, int current,
+                         std::span<const OLEncoderChoice> choices)
     : m_set(std::move(set))
-    , m_choices(std::move(choices))
+    , m_choiceCount(static_cast<int>(choices.size()))
     , m_current(current)
 {
+    if (choices.empty())
+        return;
+    m_choices = std::make_unique<OLEncoderChoice[]>(choices.size());
+    std::ranges::copy(choices, m_choices.get());
 }
 
 OLCodecList::OLCodecList(const OLCodecList &other)
-    : m_set(other.m_set)
-    , m_choices(other.Choices())
-    , m_current(other.m_current)
+    : OLCodecList(other.m_set, other.m_current, other.Choices())
 {
 }
 
@@ -36,8 +39,8 @@ OLCodecList &OLCodecList::operator=(const OLCodecList &other)
 std::vector<OLEncoderChoice> OLCodecList::Choices() const
 {
     const std::lock_guard lock(codecMaking);
-    if (m_codecs.empty())
-        return m_choices;
+    if (!m_codecs)
+        return { m_choices.get(), m_choices.get() + m_choiceCount };
     std::vector<OLEncoderChoice> choices;
     for (int i = 0; i < Count(); ++i) {
         const auto &codec = m_codecs[static_cast<std::size_t>(i)];
@@ -59,8 +62,8 @@ std::shared_ptr<OLCodecPreset> OLCodecList::At(int index) const
         return nullptr;
     const auto place = static_cast<std::size_t>(index);
     const std::lock_guard lock(codecMaking);
-    if (m_codecs.empty())
-        m_codecs.resize(m_set->encoders.size());
+    if (!m_codecs)
+        m_codecs = std::make_unique<std::shared_ptr<OLCodecPreset>[]>(m_set->encoders.size());
     if (!m_codecs[place])
         m_codecs[place] = std::make_shared<OLCodecPreset>(m_set->encoders[place], OptionsOf(index));
     return m_codecs[place];
@@ -74,8 +77,9 @@ void OLCodecList::SetCurrentIndex(int index)
 
 OLOptionIndices OLCodecList::OptionsOf(int index) const
 {
-    const auto choice = std::ranges::lower_bound(m_choices, index, {}, &OLEncoderChoice::encoder);
-    const bool chosen = choice != m_choices.end() && choice->encoder == index;
+    const std::span choices(m_choices.get(), static_cast<std::size_t>(m_choiceCount));
+    const auto choice = std::ranges::lower_bound(choices, index, {}, &OLEncoderChoice::encoder);
+    const bool chosen = choice != choices.end() && choice->encoder == index;
     return chosen ? choice->options : m_set->encoders[static_cast<std::size_t>(index)]->defaults;
 }
 

@@ -3,6 +3,7 @@
 #include "OLCodecTables.h"
 
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace Orlimo {
@@ -25,7 +26,7 @@ class OLCodecList
 public:
     OLCodecList() = default;
     // The choices are in the order of their encoders.
-    OLCodecList(OLEncoderSetPointer set, int current, std::vector<OLEncoderChoice> choices);
+    OLCodecList(OLEncoderSetPointer set, int current, std::span<const OLEncoderChoice> choices);
 
     // A copy has the same choices and objects of its own.
     OLCodecList(const OLCodecList &other);
@@ -46,9 +47,11 @@ private:
     bool Contains(int index) const { return index >= 0 && index < Count(); }
     OLOptionIndices OptionsOf(int index) const;
 
+    // There are many lists, and few of them are ever asked for their objects.
     OLEncoderSetPointer m_set;
-    std::vector<OLEncoderChoice> m_choices; // by encoder, as they were before any object was made
-    mutable std::vector<std::shared_ptr<OLCodecPreset>> m_codecs; // empty before the first is made
+    std::unique_ptr<OLEncoderChoice[]> m_choices; // by encoder, as before any object was made
+    mutable std::unique_ptr<std::shared_ptr<OLCodecPreset>[]> m_codecs; // one for each encoder
+    int m_choiceCount = 0;
     int m_current = -1;
 };
 

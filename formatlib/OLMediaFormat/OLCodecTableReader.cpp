@@ -61,7 +61,7 @@ std::shared_ptr<const Table> TakeReference(
     std::shared_ptr<const Table> table;
     members.Path().Attempt([&] {
         const std::string id = members.RequiredText(name);
-        const OLJsonPath::Scope at(members.Path(), QString(name));
+        const OLJsonPath::Scope at(members.Path(), name);
         table = Resolve(tables, id, members.Path());
     });
     return table;
@@ -186,7 +186,7 @@ OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKin
     const QJsonValue value = owner.Optional(OLKindName(kind));
     if (value.isUndefined())
         return {};
-    const OLJsonPath::Scope in(m_path, QString(OLKindName(kind)));
+    const OLJsonPath::Scope in(m_path, OLKindName(kind));
     OLJsonMembers members(m_path, value);
     const OLEncoderSetPointer set = TakeSet(members, kind);
     const int count = set ? static_cast<int>(set->encoders.size()) : unknownCount;
@@ -205,13 +205,13 @@ OLEncoderSetPointer OLCodecTableReader::TakeSet(OLJsonMembers &members, OLEncode
     return nullptr;
 }
 
-std::vector<OLEncoderChoice> OLCodecTableReader::ReadChoices(OLJsonMembers &members,
-                                                             const OLEncoderSet *set,
-                                                             OLEncoderKind kind) const
+OLCodecTableReader::Choices OLCodecTableReader::ReadChoices(OLJsonMembers &members,
+                                                            const OLEncoderSet *set,
+                                                            OLEncoderKind kind) const
 {
-    std::vector<OLEncoderChoice> choices;
+    Choices choices;
     std::set<int> chosen;
-    members.ForEachElement("choices"_L1, [&](const QJsonValue &value) {
+    members.ForEachElement("choices"_L1, [&](QJsonValueConstRef value) {
         choices.push_back(ReadChoice(OLJsonMembers(m_path, value), set, kind));
         const int encoder = choices.back().encoder;
         if (encoder >= 0 && !chosen.insert(encoder).second)

@@ -3,6 +3,7 @@
 #include "OLCodecList.h"
 
 #include <QLatin1StringView>
+#include <QVarLengthArray>
 
 #include <map>
 #include <string>
@@ -34,6 +35,8 @@ public:
     OLCodecList ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind) const;
 
 private:
+    using Choices = QVarLengthArray<OLEncoderChoice, 8>;
+
     template<class Option>
     using ListsById = std::map<std::string, OLOptionListPointer<Option>>;
 
@@ -46,8 +49,7 @@ private:
     OLEncoderSetPointer ReadEncoderSet(std::string id, const QJsonValue &value) const;
     OLEncoderPointer EncoderOf(const QJsonValue &id, const OLEncoderPointer &other) const;
     OLEncoderSetPointer TakeSet(OLJsonMembers &members, OLEncoderKind kind) const;
-    std::vector<OLEncoderChoice> ReadChoices(OLJsonMembers &members, const OLEncoderSet *set,
-                                             OLEncoderKind kind) const;
+    Choices ReadChoices(OLJsonMembers &members, const OLEncoderSet *set, OLEncoderKind kind) const;
     OLEncoderChoice ReadChoice(OLJsonMembers members, const OLEncoderSet *set,
                                OLEncoderKind kind) const;
 

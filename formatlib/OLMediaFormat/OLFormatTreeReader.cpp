@@ -53,21 +53,22 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadDocument(const QJsonValue 
     members.ExpectNoMore();
     if (!rooted)
         return nullptr;
-    const OLJsonPath::Scope in(m_path, u"root"_s);
-    return ReadNode(root);
+    const OLJsonPath::Scope in(m_path, "root"_L1);
+    return ReadNode(OLJsonMembers(m_path, root));
 }
 
-std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadNode(const QJsonValue &value)
+std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadNode(OLJsonMembers members)
 {
-    OLJsonMembers members(m_path, value);
     auto node = std::make_shared<OLFormatNode>();
     node->SetName(members.Text("name"_L1));
     node->SetDescription(members.TextOr("description"_L1, ""));
     node->SetFaceID(TakeFaceID(members));
-    members.ForEachElement("presets"_L1,
-                           [&](const QJsonValue &preset) { node->AddPreset(ReadPreset(preset)); });
-    members.ForEachElement("children"_L1, [&](const QJsonValue &childValue) {
-        auto child = ReadNode(childValue);
+    node->Reserve(members.ElementCount("presets"_L1), members.ElementCount("children"_L1));
+    members.ForEachElement("presets"_L1, [&](QJsonValueConstRef preset) {
+        node->AddPreset(ReadPreset(OLJsonMembers(m_path, preset)));
+    });
+    members.ForEachElement("children"_L1, [&](QJsonValueConstRef value) {
+        auto child = ReadNode(OLJsonMembers(m_path, value));
         child->SetParent(node);
         node->AppendChild(std::move(child));
     });
@@ -75,9 +76,8 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadNode(const QJsonValue &val
     return node;
 }
 
-std::shared_ptr<OLFormatPreset> OLFormatTreeReader::ReadPreset(const QJsonValue &value)
+std::shared_ptr<OLFormatPreset> OLFormatTreeReader::ReadPreset(OLJsonMembers members)
 {
-    OLJsonMembers members(m_path, value);
     OLFormatPreset::Texts texts { members.Text("name"_L1), members.TextOr("description"_L1, ""),
                                   members.TextOr("format"_L1, "") };
     const int faceID = TakeFaceID(members);

@@ -34,8 +34,8 @@ private:
     }
 
     std::shared_ptr<OLFormatNode> ReadDocument(const QJsonValue &document);
-    std::shared_ptr<OLFormatNode> ReadNode(const QJsonValue &value);
-    std::shared_ptr<OLFormatPreset> ReadPreset(const QJsonValue &value);
+    std::shared_ptr<OLFormatNode> ReadNode(OLJsonMembers members);
+    std::shared_ptr<OLFormatPreset> ReadPreset(OLJsonMembers members);
 
     OLJsonPath m_path;
     OLCodecTableReader m_tables;

@@ -1,5 +1,6 @@
 #include "OLJsonMembers.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -9,9 +10,25 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString Escaped(QString name)
+QString Part(qsizetype index)
+{
+    return QString::number(index);
+}
+
+QString Part(QString name)
 {
     return name.replace(u'~', "~0"_L1).replace(u'/', "~1"_L1);
+}
+
+// Most texts are ASCII, which needs no conversion.
+std::string ToStdString(const QString &text)
+{
+    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
+    if (!std::ranges::all_of(text, isAscii))
+        return text.toStdString();
+    std::string ascii(static_cast<std::size_t>(text.size()), '\0');
+    std::ranges::transform(text, ascii.begin(), [](QChar c) { return c.toLatin1(); });
+    return ascii;
 }
 
 } // namespace
@@ -34,7 +51,7 @@ void OLJsonPath::Fail(std::string reason) const
 
 void OLJsonPath::FailAt(QLatin1StringView member, std::string reason)
 {
-    const Scope at(*this, QString(member));
+    const Scope at(*this, member);
     Fail(std::move(reason));
 }
 
@@ -51,35 +68,36 @@ void OLJsonPath::ReportAt(QLatin1StringView member, std::string reason)
 std::string OLJsonPath::ToPointer() const
 {
     QString pointer;
-    for (const Step &step : m_steps) {
-        const auto *name = std::get_if<QString>(&step);
-        pointer += u'/' + (name ? Escaped(*name) : QString::number(std::get<qsizetype>(step)));
-    }
+    for (const Step &step : m_steps)
+        pointer += u'/' + std::visit([](const auto &part) { return Part(part); }, step);
     return pointer.toStdString();
 }
 
-OLJsonMembers::OLJsonMembers(OLJsonPath &path, const QJsonValue &value)
-    : m_path(path)
-    , m_object(value.toObject())
+OLJsonMembers::Member OLJsonMembers::Find(QLatin1StringView name)
 {
-    if (!value.isObject())
-        m_path.Fail("an object is expected");
+    const Member member = m_object.constFind(name);
+    if (IsThere(member))
+        m_taken.append(name);
+    return member;
+}
+
+OLJsonMembers::Member OLJsonMembers::FindRequired(QLatin1StringView name)
+{
+    const Member member = Find(name);
+    if (!IsThere(member))
+        m_path.Fail("the member \"" + QString(name).toStdString() + "\" is missing");
+    return member;
 }
 
 QJsonValue OLJsonMembers::Required(QLatin1StringView name)
 {
-    const QJsonValue value = Optional(name);
-    if (value.isUndefined())
-        m_path.Fail("the member \"" + QString(name).toStdString() + "\" is missing");
-    return value;
+    return *FindRequired(name);
 }
 
 QJsonValue OLJsonMembers::Optional(QLatin1StringView name)
 {
-    QJsonValue value = m_object.value(name);
-    if (!value.isUndefined())
-        m_taken.append(name);
-    return value;
+    const Member member = Find(name);
+    return IsThere(member) ? QJsonValue(*member) : QJsonValue(QJsonValue::Undefined);
 }
 
 bool OLJsonMembers::Has(QLatin1StringView name) const
@@ -89,10 +107,14 @@ bool OLJsonMembers::Has(QLatin1StringView name) const
 
 std::string OLJsonMembers::RequiredText(QLatin1StringView name)
 {
-    const QJsonValue value = Required(name);
-    if (!value.isString())
+    return TextOf(name, FindRequired(name));
+}
+
+std::string OLJsonMembers::TextOf(QLatin1StringView name, Member member)
+{
+    if (!member->isString())
         m_path.FailAt(name, "a text is expected");
-    return value.toString().toStdString();
+    return ToStdString(member->toString());
 }
 
 std::string OLJsonMembers::Text(QLatin1StringView name)
@@ -104,7 +126,12 @@ std::string OLJsonMembers::Text(QLatin1StringView name)
 
 std::string OLJsonMembers::TextOr(QLatin1StringView name, const char *otherwise)
 {
-    return Has(name) ? Text(name) : otherwise;
+    const Member member = Find(name);
+    if (!IsThere(member))
+        return otherwise;
+    std::string text;
+    m_path.Attempt([&] { text = TextOf(name, member); });
+    return text;
 }
 
 bool OLJsonMembers::FlagOr(QLatin1StringView name, bool otherwise)
@@ -117,8 +144,13 @@ bool OLJsonMembers::FlagOr(QLatin1StringView name, bool otherwise)
 
 int OLJsonMembers::RequiredInteger(QLatin1StringView name, int minimum, int maximum)
 {
+    return IntegerOf(name, FindRequired(name), minimum, maximum);
+}
+
+int OLJsonMembers::IntegerOf(QLatin1StringView name, Member member, int minimum, int maximum)
+{
     constexpr qint64 none = std::numeric_limits<qint64>::min();
-    const qint64 number = Required(name).toInteger(none);
+    const qint64 number = member->toInteger(none);
     if (number < minimum || number > maximum) {
         m_path.FailAt(name,
                       "a whole number from " + std::to_string(minimum) + " to "
@@ -136,7 +168,12 @@ int OLJsonMembers::Integer(QLatin1StringView name, int minimum, int maximum)
 
 int OLJsonMembers::IntegerOr(QLatin1StringView name, int otherwise, int minimum, int maximum)
 {
-    return Has(name) ? Integer(name, minimum, maximum) : otherwise;
+    const Member member = Find(name);
+    if (!IsThere(member))
+        return otherwise;
+    int number = minimum;
+    m_path.Attempt([&] { number = IntegerOf(name, member, minimum, maximum); });
+    return number;
 }
 
 void OLJsonMembers::ExpectNoMore() const
@@ -151,6 +188,11 @@ void OLJsonMembers::ExpectNoMore() const
         const OLJsonPath::Scope at(m_path, name);
         m_path.Report("this layout does not know the member");
     }
+}
+
+std::size_t OLJsonMembers::ElementCount(QLatin1StringView name) const
+{
+    return static_cast<std::size_t>(m_object.value(name).toArray().size());
 }
 
 QJsonObject OLJsonMembers::ObjectOrNone(QLatin1StringView name)

@@ -25,7 +25,8 @@ struct OLJsonFault
 class OLJsonPath
 {
 public:
-    using Step = std::variant<QString, qsizetype>;
+    // A member that the layout names, any other member, or the index of an element.
+    using Step = std::variant<QLatin1StringView, QString, qsizetype>;
 
     // Goes down one step for as long as it lives.
     class Scope
@@ -70,7 +71,9 @@ private:
 class OLJsonMembers
 {
 public:
-    OLJsonMembers(OLJsonPath &path, const QJsonValue &value);
+    // The value is a QJsonValue or what stands for one in an array or object.
+    template<class Value>
+    OLJsonMembers(OLJsonPath &path, const Value &value);
 
     QJsonValue Required(QLatin1StringView name);
     QJsonValue Optional(QLatin1StringView name); // undefined where it is absent
@@ -89,15 +92,27 @@ public:
     template<class Handler>
     void ForEach(QLatin1StringView name, Handler handle);
 
-    // Calls handle(value) for every element of the array called name, which may be absent.
+    // Calls handle(QJsonValueConstRef) for every element of the array called name, which may be
+    // absent.
     template<class Handler>
     void ForEachElement(QLatin1StringView name, Handler handle);
+
+    // How many elements ForEachElement() would see.
+    std::size_t ElementCount(QLatin1StringView name) const;
 
     void ExpectNoMore() const;
 
     OLJsonPath &Path() const { return m_path; }
 
 private:
+    using Member = QJsonObject::const_iterator;
+
+    Member Find(QLatin1StringView name); // the end where it is absent
+    Member FindRequired(QLatin1StringView name);
+    bool IsThere(Member member) const { return member != m_object.constEnd(); }
+
+    std::string TextOf(QLatin1StringView name, Member member);
+    int IntegerOf(QLatin1StringView name, Member member, int minimum, int maximum);
     QJsonObject ObjectOrNone(QLatin1StringView name);
     QJsonArray ArrayOrNone(QLatin1StringView name);
 
@@ -122,11 +137,20 @@ bool OLJsonPath::Attempt(Reading read) const
     }
 }
 
+template<class Value>
+OLJsonMembers::OLJsonMembers(OLJsonPath &path, const Value &value)
+    : m_path(path)
+    , m_object(value.toObject())
+{
+    if (!value.isObject())
+        m_path.Fail("an object is expected");
+}
+
 template<class Handler>
 void OLJsonMembers::ForEach(QLatin1StringView name, Handler handle)
 {
     const QJsonObject object = ObjectOrNone(name);
-    const OLJsonPath::Scope in(m_path, QString(name));
+    const OLJsonPath::Scope in(m_path, name);
     for (auto member = object.begin(); member != object.end(); ++member) {
         const OLJsonPath::Scope at(m_path, member.key());
         m_path.Attempt([&] { handle(member.key(), QJsonValue(member.value())); });
@@ -137,10 +161,10 @@ template<class Handler>
 void OLJsonMembers::ForEachElement(QLatin1StringView name, Handler handle)
 {
     const QJsonArray array = ArrayOrNone(name);
-    const OLJsonPath::Scope in(m_path, QString(name));
-    for (qsizetype i = 0; i < array.size(); ++i) {
-        const OLJsonPath::Scope at(m_path, i);
-        m_path.Attempt([&] { handle(array.at(i)); });
+    const OLJsonPath::Scope in(m_path, name);
+    for (auto element = array.begin(); element != array.end(); ++element) {
+        const OLJsonPath::Scope at(m_path, element - array.begin());
+        m_path.Attempt([&] { handle(*element); });
     }
 }
 
