@@ -163,7 +163,8 @@ std::optional<QByteArray> ReadFile(const std::string &path, std::string &reason)
 std::optional<OLArtworkFile> OLArtworkFile::FromImages(std::vector<OLArtworkImage> images,
                                                        std::string &reason)
 {
-    std::ranges::sort(images, {}, OrderOf);
+    if (!std::ranges::is_sorted(images, {}, OrderOf))
+        std::ranges::sort(images, {}, OrderOf);
     if (const char *fault = FaultOfImages(images)) {
         reason = fault;
         return std::nullopt;

@@ -17,14 +17,19 @@ QByteArray LittleEndian(Number number)
     return bytes;
 }
 
-inline QByteArray Png(QSize size, const QColor &color)
+inline QByteArray Png(const QImage &image)
 {
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return buffer.data();
+}
+
+inline QByteArray Png(QSize size, const QColor &color)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(color);
+    return Png(image);
 }
 
 // An entry of the table of an artwork file.
