@@ -20,6 +20,8 @@ constexpr int textFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
 
 } // namespace
 
+// The form does not have slots connected by name, as the others do: a row has none, and to look for
+// them would take a quarter of the time in which a list is filled.
 RPFmtItemDataWdg::RPFmtItemDataWdg(QWidget *parent)
     : QWidget(parent)
 {
