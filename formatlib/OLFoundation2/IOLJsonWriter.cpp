@@ -28,6 +28,8 @@ QByteArray Write(const QJsonValue &value)
 // Qt's parser drops a U+FEFF at the start of a text unless it is escaped.
 QByteArray WithEscapedMarks(QByteArray text)
 {
+    if (!text.contains('\xEF'))
+        return text;
     return text.replace("\xEF\xBB\xBF", "\\ufeff");
 }
 

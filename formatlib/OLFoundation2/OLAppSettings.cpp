@@ -12,8 +12,11 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <map>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -52,11 +55,10 @@ bool IsUtf8(const QString &path)
 }
 
 // QSettings tells so of a file that it has not seen before, and once it has parsed all of it.
-bool IsDamaged(const QString &path)
+bool IsDamaged(const QSettings &settings)
 {
-    const QSettings settings(path, QSettings::IniFormat);
     settings.allKeys();
-    return settings.status() == QSettings::FormatError || !IsUtf8(path);
+    return settings.status() == QSettings::FormatError || !IsUtf8(settings.fileName());
 }
 
 bool HaveSameContent(const QString &path, const QString &other)
@@ -78,10 +80,10 @@ QString NameForDamagedFile(const QString &path)
 
 bool IsText(const QVariant &value)
 {
+    if (value.typeId() != QMetaType::QByteArray)
+        return value.typeId() == QMetaType::QString;
     const QByteArray bytes = value.toByteArray();
-    return value.typeId() == QMetaType::QString
-            || (value.typeId() == QMetaType::QByteArray
-                && QString::fromUtf8(bytes).toUtf8() == bytes);
+    return QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
 // A key that is free, or that holds the value already. Where no key is free any more, the last
@@ -131,22 +133,28 @@ bool CopyIfThere(const QString &path, const QString &copy)
     return !info.exists() || (QFile::copy(path, copy) && QFileInfo(copy).size() == info.size());
 }
 
-// Whether a file of this size can be written to the folder.
-bool HasRoom(const QTemporaryDir &folder, qint64 size)
+// How many lines QSettings writes: one for each key and each section, and an empty one between two
+// sections. Keys without a section share one, and a slash before them is lost.
+qsizetype LineCount(const QSettings &settings)
 {
-    QFile file(folder.filePath(QStringLiteral("room")));
-    const QByteArray filling(static_cast<qsizetype>(size), '\0');
-    const bool fits = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-            && file.write(filling) == filling.size();
-    file.remove();
-    return fits;
+    std::map<QString, std::set<QString>> sections;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        const qsizetype slash = key.indexOf(u'/');
+        sections[key.first(std::max<qsizetype>(slash, 0))].insert(key.sliced(slash + 1));
+    }
+    std::size_t lines = 2 * sections.size() - 1;
+    for (const auto &[section, names] : sections)
+        lines += names.size();
+    return static_cast<qsizetype>(lines);
 }
 
-// QSettings ends every file with a line.
-bool IsComplete(const QString &path)
+// QSettings takes a file for written that a full disk has cut: at its end, or within if there was
+// room again. It writes line by line, so the break of a line that was cut is missing.
+bool IsComplete(const QString &path, qsizetype lines)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.readAll().endsWith('\n');
+    return file.open(QIODevice::ReadOnly) && file.readAll().count('\n') >= lines;
 }
 
 // QSettings keeps what it parsed of a file, and takes a file of the same size and time for the
@@ -236,22 +244,21 @@ std::string OLAppSettings::Write(const QString &path) const
     const QString written = staging.filePath(QStringLiteral("written.ini"));
     if (!CopyIfThere(target, copy))
         return "the present file cannot be copied";
-    if (const std::string failure = KeepDamagedFile(target, copy); !failure.empty())
-        return failure;
-    // QSettings takes a file for written that a full disk has cut short, so there must be room for
-    // it beforehand: a text takes up to four times its length in the file.
-    if (!HasRoom(staging, 4 * (QFileInfo(target).size() + UnsavedSize()) + 4096))
-        return "there is no room for it";
+    // While it lives, the object that writes does not parse the file again, and its status tells of
+    // the writing alone.
+    const QSettings present(copy, QSettings::IniFormat);
+    if (IsDamaged(present)) {
+        if (const std::string failure = KeepDamagedFile(target); !failure.empty())
+            return failure;
+    }
     if (!WriteValues(copy, written))
         return "it cannot be written whole";
     return ReplaceFile(target, written);
 }
 
 // QSettings drops what it does not understand of a file, so the whole of it is kept aside.
-std::string OLAppSettings::KeepDamagedFile(const QString &path, const QString &copy)
+std::string OLAppSettings::KeepDamagedFile(const QString &path)
 {
-    if (!IsDamaged(copy))
-        return {};
     const QString name = NameForDamagedFile(path);
     if (QFileInfo::exists(name))
         return {};
@@ -262,16 +269,7 @@ std::string OLAppSettings::KeepDamagedFile(const QString &path, const QString &c
     return {};
 }
 
-qint64 OLAppSettings::UnsavedSize() const
-{
-    std::size_t size = 0;
-    for (const auto &[key, value] : m_unsaved)
-        size += key.size() + value.size();
-    return static_cast<qint64>(size);
-}
-
-// Sets the unsaved values in the file copy, which becomes written if all of it could be written. A
-// format error is about the text that was there before, and is no failure.
+// Sets the unsaved values in the file copy, which becomes written if all of it could be written.
 bool OLAppSettings::WriteValues(const QString &copy, const QString &written) const
 {
     QSettings settings(copy, QSettings::IniFormat);
@@ -280,8 +278,8 @@ bool OLAppSettings::WriteValues(const QString &copy, const QString &written) con
         settings.setValue(ToQString(key), ToQString(value));
     }
     settings.sync();
-    return settings.status() != QSettings::AccessError && QFile::rename(copy, written)
-            && IsComplete(written);
+    return settings.status() == QSettings::NoError && QFile::rename(copy, written)
+            && IsComplete(written, LineCount(settings));
 }
 
 } // namespace Orlimo

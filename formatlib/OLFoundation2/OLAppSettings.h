@@ -23,8 +23,7 @@ public:
 private:
     // Returns the reason for which nothing was written, empty where all was.
     std::string Write(const QString &path) const;
-    qint64 UnsavedSize() const;
-    static std::string KeepDamagedFile(const QString &path, const QString &copy);
+    static std::string KeepDamagedFile(const QString &path);
     bool WriteValues(const QString &copy, const QString &written) const;
 
     QString m_organization;

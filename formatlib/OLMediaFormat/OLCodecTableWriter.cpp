@@ -47,12 +47,19 @@ void OLCodecTableWriter::Write(const OLCodecList &list, OLEncoderKind kind, QJso
 {
     if (!list.Set())
         return;
-    QJsonObject object { { u"encoders"_s, SetId(list.Set()) },
-                         { u"current"_s, list.CurrentIndex() } };
+    QJsonObject object = CurrentEncoder(list.Set(), list.CurrentIndex());
     const QJsonArray choices = ToJson(list.Choices(), *list.Set());
     if (!choices.isEmpty())
         object.insert("choices"_L1, choices);
     preset.insert(OLKindName(kind), object);
+}
+
+const QJsonObject &OLCodecTableWriter::CurrentEncoder(const OLEncoderSetPointer &set, int current)
+{
+    const auto [known, isNew] = m_currentEncoders.try_emplace({ set, current });
+    if (isNew)
+        known->second = { { u"current"_s, current }, { u"encoders"_s, SetId(set) } };
+    return known->second;
 }
 
 void OLCodecTableWriter::WriteTables(QJsonObject &document) const

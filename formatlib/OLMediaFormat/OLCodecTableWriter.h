@@ -9,6 +9,7 @@
 
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace Orlimo {
 
@@ -69,6 +70,8 @@ public:
     void WriteTables(QJsonObject &document) const;
 
 private:
+    // Made once for all presets, which mostly have the same.
+    const QJsonObject &CurrentEncoder(const OLEncoderSetPointer &set, int current);
     QString SetId(const OLEncoderSetPointer &set);
     QString EncoderId(const OLEncoderPointer &encoder);
     template<class Option>
@@ -88,6 +91,7 @@ private:
             m_lists { m_comparison, m_comparison, m_comparison, m_comparison, m_comparison };
     OLTableRegistry<OLEncoder> m_encoders { m_comparison };
     OLTableRegistry<OLEncoderSet> m_sets { m_comparison };
+    std::map<std::pair<OLEncoderSetPointer, int>, QJsonObject> m_currentEncoders;
     std::map<QString, Members> m_document; // by the name of the table's member
 };
 

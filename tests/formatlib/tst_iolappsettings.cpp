@@ -259,6 +259,28 @@ private Q_SLOTS:
         QCOMPARE(Content(FilePath() + QStringLiteral(".unreadable")), content);
     }
 
+    // QSettings tells the first error only: that of a file of many keys, if it parses that again.
+    void aDamagedFileThatCannotBeWrittenStaysAsItIs()
+    {
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        QByteArray content = "[General]\n";
+        for (int i = 0; i < 1000; ++i)
+            content += "key" + QByteArray::number(i) + "=1\nnoise\n";
+        Create(FilePath(), content);
+        Create(FilePath() + QStringLiteral(".unreadable"), content);
+        const std::string value(200'000, 'x');
+        for (const char *key : { "first", "second" })
+            IOLAppSettings::Shared()->SetValue(value, key);
+        {
+            const FullDisk fullDisk(100'000);
+            ExpectFailedSave();
+        }
+        QCOMPARE(Content(FilePath()), content);
+        IOLAppSettings::Shared()->Save();
+        for (const char *key : { "first", "second" })
+            QCOMPARE(IOLAppSettings::Shared()->Value(key), value);
+    }
+
     // A link to nowhere stands where the file is to be kept: it is not there, and cannot be made.
     void aDamagedFileWhosePlaceIsTakenStaysAsItIs()
     {
@@ -408,19 +430,41 @@ private Q_SLOTS:
         QCOMPARE(Content(FilePath()), "[General]\nkey=" + value + '\n');
     }
 
-    void aFileCutExactlyBehindALineIsNotTakenForWhole()
+    void aFileCutAnywhereIsNotTakenForWhole_data()
     {
-        const std::string value(50'000, 'x');
-        IOLAppSettings::Shared()->SetValue("kept", "z");
-        IOLAppSettings::Shared()->Save();
-        IOLAppSettings::Shared()->SetValue(value, "a");
-        {
-            const QByteArray firstLines = QByteArray(
-                    "[General]\na=" + QByteArray::fromStdString(value) + '\n');
-            const FullDisk fullDisk(static_cast<rlim_t>(firstLines.size()));
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("behind"); // what follows the new value in the file
+        const auto kept = [](const char *title, const QByteArray &lines) {
+            QTest::newRow(title) << "[General]\n" + lines << lines;
+        };
+        kept("only key", "");
+        kept("several keys", "y=1\nz=2\n");
+        kept("several sections", "z=1\n\n[Host]\ngeometry=1\n\n[Other]\ny=1\nz=2\n");
+        kept("section named like the general one", "\n[%General]\nz=1\n");
+        kept("lists and bytes", "list=1, \"a,b\"\nz=@ByteArray(\\0\\n\\xff)\n");
+        kept("values like lines", "y=\"a\\n\\n[b]\\nc=d\"\nz=\\n\n");
+        kept("names like lines", "z%0A%5B=1\n\n[%0A%5Bb%5D]\nz=1\n");
+        kept("empty names", "z=1\n\n[Host]\n=1\n");
+        QTest::newRow("names that become one")
+                << QByteArray("[]\nz=1\n[General]\nz=2\n") << QByteArray("z=2\n");
+    }
+
+    void aFileCutAnywhereIsNotTakenForWhole()
+    {
+        QFETCH(const QByteArray, before);
+        QFETCH(const QByteArray, behind);
+        QDir().mkpath(QFileInfo(FilePath()).path());
+        Create(FilePath(), before);
+        IOLAppSettings::Shared()->SetValue(std::string(500, 'x'), "a");
+        const QByteArray whole = "[General]\na=" + QByteArray(500, 'x') + '\n' + behind;
+        for (qsizetype size = whole.size() - behind.size() - 2; size < whole.size(); ++size) {
+            const FullDisk fullDisk(static_cast<rlim_t>(size));
             ExpectFailedSave();
+            QCOMPARE(Content(FilePath()), before);
         }
-        QCOMPARE(Content(FilePath()), QByteArray("[General]\nz=kept\n"));
+        const FullDisk fullDisk(static_cast<rlim_t>(whole.size()));
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(FilePath()), whole);
     }
 
     void everySaveMakesTheFileNewer()

@@ -10,8 +10,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
+#include <limits>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -29,14 +31,15 @@ std::string OldValue()
     return std::string(5000, 'o');
 }
 
+// Longer than what is gathered before it is written, so that it has system calls of its own.
 std::string NewValue()
 {
-    return std::string(6000, 'n');
+    return std::string(20'000, 'n');
 }
 
 QByteArray FileWith(const std::string &value)
 {
-    return "[General]\nkey=" + QByteArray::fromStdString(value) + '\n';
+    return "[General]\nkey=" + QByteArray::fromStdString(value) + "\n\n[Host]\ngeometry=1\n";
 }
 
 int saveResult = exitSaved;
@@ -97,13 +100,26 @@ public:
         Wait();
     }
 
-    // Goes on without stops; no file grows beyond so many bytes any more.
-    void RunToTheEnd(rlim_t roomOnDisk)
+    void MakeCalls(int count)
     {
-        const rlimit limit { roomOnDisk, roomOnDisk };
+        constexpr int stepsOfCall = 2;
+        for (int step = 0; step / stepsOfCall < count && IsRunning(); ++step)
+            Step();
+    }
+
+    void RunToTheEnd()
+    {
+        while (IsRunning())
+            Step();
+    }
+
+    // From here on no file grows beyond so many bytes.
+    void SetRoomOnDisk(rlim_t room) const
+    {
+        rlimit limit {};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        limit.rlim_cur = std::min(room, limit.rlim_max);
         prlimit(m_process, RLIMIT_FSIZE, &limit, nullptr);
-        ptrace(PTRACE_DETACH, m_process, nullptr, nullptr);
-        Wait();
     }
 
     bool IsForbidden() const { return ExitCode() == exitNotTraced; }
@@ -160,6 +176,7 @@ private Q_SLOTS:
             QSKIP("this machine does not let a process trace another");
     }
     void theFileIsWholeBetweenAnyTwoSystemCalls();
+    void aDiskThatFillsUpAtAnyMomentLeavesAWholeFile_data();
     void aDiskThatFillsUpAtAnyMomentLeavesAWholeFile();
 };
 
@@ -179,21 +196,30 @@ void tst_IOLAppSettingsInterrupted::theFileIsWholeBetweenAnyTwoSystemCalls()
     QCOMPARE(save.ExitCode(), exitSaved);
 }
 
+void tst_IOLAppSettingsInterrupted::aDiskThatFillsUpAtAnyMomentLeavesAWholeFile_data()
+{
+    QTest::addColumn<int>("callsWithoutRoom");
+    QTest::newRow("for one system call") << 1;
+    QTest::newRow("for two system calls") << 2;
+    QTest::newRow("for good") << std::numeric_limits<int>::max();
+}
+
 // Every run goes one system call further with room on the disk, until the last has room for all.
 void tst_IOLAppSettingsInterrupted::aDiskThatFillsUpAtAnyMomentLeavesAWholeFile()
 {
+    QFETCH(const int, callsWithoutRoom);
     constexpr rlim_t roomForSome = 1000;
-    constexpr int stepsOfCall = 2;
     bool failed = false;
     bool hasRoom = false;
-    for (int steps = 0; !hasRoom; steps += stepsOfCall) {
+    for (int calls = 0; !hasRoom; ++calls) {
         const SettingsFolder folder;
         TracedSave save(folder.Path());
-        for (int step = 0; step < steps && save.IsRunning(); ++step)
-            save.Step();
+        save.MakeCalls(calls);
         hasRoom = !save.IsRunning();
-        if (!hasRoom)
-            save.RunToTheEnd(roomForSome);
+        save.SetRoomOnDisk(roomForSome);
+        save.MakeCalls(callsWithoutRoom);
+        save.SetRoomOnDisk(RLIM_INFINITY);
+        save.RunToTheEnd();
         const bool saved = save.ExitCode() == exitSaved;
         QVERIFY(saved || save.ExitCode() == exitLoggedFailure);
         QVERIFY(folder.Holds(saved ? NewValue() : OldValue()));

@@ -89,6 +89,18 @@ private Q_SLOTS:
         QCOMPARE(read->AudioCodecAt(1)->CurrentSampleRateIndex(), 0);
     }
 
+    void theChosenOptionsOfAPresetAreItsOwn()
+    {
+        const PresetPointer preset = IOLFormatPreset::MallocFormatPreset("MP4", "with a choice");
+        const PresetPointer other = IOLFormatPreset::MallocFormatPreset("MP4", "without");
+        preset->VideoCodecAt(1)->SetResolutionIndex(1);
+        QVERIFY(other->VideoCodecAt(1)->CurrentResolutionIndex() != 1);
+        const NodePointer node = NodeWithPresets({ preset, other });
+        const NodePointer back = ThereAndBack(node);
+        QVERIFY(back);
+        QCOMPARE(Test::Describe(back), Test::Describe(node));
+    }
+
     void noChosenEncoderAndNoChosenOptionComeBack()
     {
         const QJsonValue none = Test::Json(
