@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <chrono>
+#include <string_view>
 #include <vector>
 
 namespace Bench {
 
 using Nanoseconds = std::chrono::duration<double, std::nano>;
+using Milliseconds = std::chrono::duration<double, std::milli>;
 
 template<class Work>
 Nanoseconds Elapsed(Work work)
@@ -23,12 +25,44 @@ inline double Median(std::vector<double> values)
     return *middle;
 }
 
-// What two ways of doing the same take: the medians, and the median of the ratios of each round.
+// What the figure of a comparison is in, and what both sides are in.
+struct Unit
+{
+    std::string_view figure;
+    std::string_view sides;
+};
+
+constexpr Unit ratioUnit { "x", "ms" };
+constexpr Unit millisecondUnit { "ms", "ms" };
+constexpr Unit byteUnit { "bytes", "bytes" };
+
+// What two ways of doing the same take, and the figure that is to reach its aim.
 struct Comparison
 {
-    double ours = 0; // nanoseconds or bytes
+    double ours = 0;
     double other = 0;
-    double ratio = 0;
+    double figure = 0;
+    Unit unit = ratioUnit;
+};
+
+// Rounds in each of which both ways were measured.
+class Rounds
+{
+public:
+    void Add(double ours, double other)
+    {
+        m_ours.push_back(ours);
+        m_others.push_back(other);
+        m_ratios.push_back(ours / other);
+    }
+
+    // The medians, and the median of the ratios of each round.
+    Comparison Compared() const { return { Median(m_ours), Median(m_others), Median(m_ratios) }; }
+
+private:
+    std::vector<double> m_ours;
+    std::vector<double> m_others;
+    std::vector<double> m_ratios;
 };
 
 constexpr int usualRounds = 9;
@@ -38,15 +72,12 @@ constexpr int usualRounds = 9;
 template<class Ours, class Other>
 Comparison Compare(Ours ours, Other other, int rounds = usualRounds)
 {
-    std::vector<double> ourFigures;
-    std::vector<double> otherFigures;
-    std::vector<double> ratios;
+    Rounds measured;
     for (int i = 0; i < rounds; ++i) {
-        ourFigures.push_back(Nanoseconds(ours()).count());
-        otherFigures.push_back(Nanoseconds(other()).count());
-        ratios.push_back(ourFigures.back() / otherFigures.back());
+        const Milliseconds ourTime = ours();
+        measured.Add(ourTime.count(), Milliseconds(other()).count());
     }
-    return { Median(ourFigures), Median(otherFigures), Median(ratios) };
+    return measured.Compared();
 }
 
 } // namespace Bench

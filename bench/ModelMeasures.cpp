@@ -110,7 +110,7 @@ Comparison MeasureMemory(const QString &path, int presets)
     const double used = HeapInUse() - before;
     const auto texts = static_cast<double>(TextSize(*root));
     const double onTop = (used - texts) / presets;
-    return { used, texts, onTop };
+    return { used, texts, onTop, byteUnit };
 }
 
 Comparison MeasureSearch(const QString &path)

@@ -1,4 +1,5 @@
 #include "Measures.h"
+#include "Scenes.h"
 #include "TableReporter.h"
 
 #include "IsolatedSettings.h"
@@ -9,21 +10,35 @@
 
 namespace Bench {
 
+namespace {
+
+// Nothing where no time was measured.
+double Seconds(const Comparison &comparison)
+{
+    return comparison.unit.sides == millisecondUnit.sides ? comparison.ours / 1000 : 0;
+}
+
+} // namespace
+
 void AddMeasure(std::string what, std::string size, double toReach,
                 std::function<Comparison()> measure)
 {
     const auto run = [toReach, measure](benchmark::State &state) {
         for (auto _ : state) {
             const Comparison comparison = measure();
-            state.SetIterationTime(comparison.ours * 1e-9);
+            state.SetIterationTime(Seconds(comparison));
+            state.SetLabel(std::string(comparison.unit.figure));
             state.counters["ours"] = comparison.ours;
             state.counters["against"] = comparison.other;
-            state.counters["ratio"] = comparison.ratio;
+            state.counters["figure"] = comparison.figure;
             state.counters["to_reach"] = toReach;
         }
     };
     const std::string name = what + ", " + size;
-    benchmark::RegisterBenchmark(name.c_str(), run)->UseManualTime()->Iterations(1);
+    benchmark::RegisterBenchmark(name.c_str(), run)
+            ->UseManualTime()
+            ->Iterations(1)
+            ->Unit(benchmark::kMillisecond);
 }
 
 } // namespace Bench
@@ -35,8 +50,17 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     const QApplication application(argc, argv);
     const Test::IsolatedSettings settings;
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.value(1) == QLatin1StringView(Bench::sceneArgument)) {
+        Bench::RunScene(arguments.mid(2));
+        return 0;
+    }
     Bench::AddModelMeasures();
     Bench::AddWidgetMeasures();
+    Bench::AddPopupMeasures();
+    benchmark::AddCustomContext("label",
+                                "the unit of figure and to_reach; ours and against are in "
+                                "ms where it is x, and otherwise in this unit");
     Bench::TableReporter table;
     benchmark::RunSpecifiedBenchmarks(&table);
     return 0;
