@@ -114,7 +114,8 @@ QStringList NodeOperations()
              u"RemoveChild(shared_ptr<IOLFormatNode>)"_s,
              u"RemoveChildAt(int)"_s,
              u"FindChild(string) const"_s,
-             u"IsEqual(shared_ptr<IOLFormatNode const>) const"_s };
+             u"IsEqual(shared_ptr<IOLFormatNode const>) const"_s,
+             u"NameView() const"_s };
 }
 
 QStringList PresetOperations()
@@ -133,7 +134,9 @@ QStringList PresetOperations()
              u"AudioCodecCount() const"_s,
              u"AudioCodecAt(int) const"_s,
              u"CurrentAudioCodecIndex() const"_s,
-             u"SetCurrentAudioCodecIndex(int)"_s };
+             u"SetCurrentAudioCodecIndex(int)"_s,
+             u"NameView() const"_s,
+             u"DescriptionView() const"_s };
 }
 
 QStringList CodecOperations()
