@@ -17,18 +17,29 @@ std::mutex codecMaking;
 OLCodecList::OLCodecList(OLEncoderSetPointer set, int current,
                          std::span<const OLEncoderChoice> choices)
     : m_set(std::move(set))
-    , m_choiceCount(static_cast<int>(choices.size()))
     , m_current(current)
+{
+    Keep(choices);
+}
+
+OLCodecList::OLCodecList(const OLCodecList &other)
+    : m_set(other.m_set)
+    , m_current(other.m_current)
+{
+    const std::lock_guard lock(codecMaking);
+    if (other.m_codecs)
+        Keep(other.ChoicesOfCodecs());
+    else
+        Keep(other.FirstChoices());
+}
+
+void OLCodecList::Keep(std::span<const OLEncoderChoice> choices)
 {
     if (choices.empty())
         return;
     m_choices = std::make_unique<OLEncoderChoice[]>(choices.size());
+    m_choiceCount = static_cast<int>(choices.size());
     std::ranges::copy(choices, m_choices.get());
-}
-
-OLCodecList::OLCodecList(const OLCodecList &other)
-    : OLCodecList(other.m_set, other.m_current, other.Choices())
-{
 }
 
 OLCodecList &OLCodecList::operator=(const OLCodecList &other)
@@ -39,8 +50,17 @@ OLCodecList &OLCodecList::operator=(const OLCodecList &other)
 std::vector<OLEncoderChoice> OLCodecList::Choices() const
 {
     const std::lock_guard lock(codecMaking);
-    if (!m_codecs)
-        return { m_choices.get(), m_choices.get() + m_choiceCount };
+    const auto first = FirstChoices();
+    return m_codecs ? ChoicesOfCodecs() : std::vector(first.begin(), first.end());
+}
+
+std::span<const OLEncoderChoice> OLCodecList::FirstChoices() const
+{
+    return { m_choices.get(), static_cast<std::size_t>(m_choiceCount) };
+}
+
+std::vector<OLEncoderChoice> OLCodecList::ChoicesOfCodecs() const
+{
     std::vector<OLEncoderChoice> choices;
     for (int i = 0; i < Count(); ++i) {
         const auto &codec = m_codecs[static_cast<std::size_t>(i)];
@@ -77,7 +97,7 @@ void OLCodecList::SetCurrentIndex(int index)
 
 OLOptionIndices OLCodecList::OptionsOf(int index) const
 {
-    const std::span choices(m_choices.get(), static_cast<std::size_t>(m_choiceCount));
+    const auto choices = FirstChoices();
     const auto choice = std::ranges::lower_bound(choices, index, {}, &OLEncoderChoice::encoder);
     const bool chosen = choice != choices.end() && choice->encoder == index;
     return chosen ? choice->options : m_set->encoders[static_cast<std::size_t>(index)]->defaults;

@@ -46,10 +46,13 @@ public:
 private:
     bool Contains(int index) const { return index >= 0 && index < Count(); }
     OLOptionIndices OptionsOf(int index) const;
+    void Keep(std::span<const OLEncoderChoice> choices);
+    std::span<const OLEncoderChoice> FirstChoices() const;
+    std::vector<OLEncoderChoice> ChoicesOfCodecs() const; // where there are objects
 
     // There are many lists, and few of them are ever asked for their objects.
     OLEncoderSetPointer m_set;
-    std::unique_ptr<OLEncoderChoice[]> m_choices; // by encoder, as before any object was made
+    std::unique_ptr<OLEncoderChoice[]> m_choices; // by encoder, before any object was made
     mutable std::unique_ptr<std::shared_ptr<OLCodecPreset>[]> m_codecs; // one for each encoder
     int m_choiceCount = 0;
     int m_current = -1;
