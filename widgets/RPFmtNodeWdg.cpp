@@ -107,8 +107,8 @@ void RPFmtNodeWdg::FillFormatList()
     if (!currentSubNode)
         return;
     const int textWidth = FormatTextWidth();
-    const QIcon icon(custom ? u":/OLMediaFormatPopup/trash.png"_s
-                            : u":/OLMediaFormatPopup/setting.png"_s);
+    const QIcon icon = ActionIcon(custom ? u":/OLMediaFormatPopup/trash.png"_s
+                                         : u":/OLMediaFormatPopup/setting.png"_s);
     FillRows(*ui.ListFormat, currentSubNode->PresetCount(), [&](RPFmtItemDataWdg &row, int index) {
         row.preset = currentSubNode->PresetAt(index);
         row.actionIcon = icon;

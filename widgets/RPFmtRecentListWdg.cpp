@@ -50,7 +50,7 @@ void RPFmtRecentListWdg::ResetRecentSearch()
 void RPFmtRecentListWdg::FillRecentList(const RecentItems &items)
 {
     ui.lwRecentList->clear();
-    const QIcon icon(u":/OLMediaFormatPopup/trash.png"_s);
+    const QIcon icon = ActionIcon(u":/OLMediaFormatPopup/trash.png"_s);
     FillRows(*ui.lwRecentList, static_cast<int>(items.size()),
              [&](RPFmtItemDataWdg &row, int index) {
                  row.recentItem = items[static_cast<std::size_t>(index)];

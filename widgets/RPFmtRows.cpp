@@ -3,7 +3,9 @@
 #include "RPFmtItemDataWdg.h"
 #include "RPFmtItemGeometry.h"
 
+#include <QIcon>
 #include <QListWidget>
+#include <QPixmap>
 #include <QScrollBar>
 
 namespace Orlimo {
@@ -42,6 +44,12 @@ void SetUpRowList(QListWidget &list)
     list.setSelectionMode(QAbstractItemView::SingleSelection);
     list.verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     list.horizontalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+// QIcon would decode the file each time; QPixmap keeps it in Qt's cache.
+QIcon ActionIcon(const QString &file)
+{
+    return QIcon(QPixmap(file));
 }
 
 void FillRows(QListWidget &list, int count,

@@ -2,7 +2,9 @@
 
 #include <functional>
 
+class QIcon;
 class QListWidget;
+class QString;
 
 namespace Orlimo {
 
@@ -11,6 +13,9 @@ class RPFmtItemDataWdg;
 // Sets a list of rows up: one row can be selected, and its scroll bars have no context menu, which
 // would take the focus and with it close the popup.
 void SetUpRowList(QListWidget &list);
+
+// The action icon in the file.
+QIcon ActionIcon(const QString &file);
 
 // Appends count rows to an empty list. setUpRow(row, i) gives each its data.
 //

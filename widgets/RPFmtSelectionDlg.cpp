@@ -54,6 +54,7 @@ RPFmtSelectionDlg::RPFmtSelectionDlg()
     setFixedSize(popupSize);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     ui.tabWidget->clear();
     InitRecentFmtList();
     InitCustomFmtNode();
@@ -71,10 +72,10 @@ RPFmtSelectionDlg::~RPFmtSelectionDlg() = default;
 void RPFmtSelectionDlg::InitRecentFmtList()
 {
     auto *page = new RPFmtRecentListWdg(ui.tabWidget);
-    page->RefreshRecentList();
     const QIcon icon = ArtworkIcon(IOLArtworkImageMgr::CategoryFaceIDRecentList);
     const QIcon reduced(icon.pixmap(recentIconSize, QIcon::Normal, QIcon::Off));
     ui.tabWidget->addTab(page, reduced, Text(QT_TR_NOOP("Recent")));
+    page->RefreshRecentList();
     page->installEventFilter(this);
     page->List()->installEventFilter(this);
     page->recentSelected = [this](const std::shared_ptr<IOLFmtPresetRecentItem> &item) {
@@ -85,9 +86,10 @@ void RPFmtSelectionDlg::InitRecentFmtList()
 void RPFmtSelectionDlg::InitCustomFmtNode()
 {
     const auto root = IOLFmtPresetDataSource::Shared()->GetCustomFormatNode();
-    RPFmtNodeWdg *page = CreateNodeWdg(root, true);
-    ui.tabWidget->addTab(page, ArtworkIcon(IOLArtworkImageMgr::CategoryFaceIDCustomize),
-                         Text(QT_TR_NOOP("Custom")));
+    RPFmtNodeWdg *page = CreateNodeWdg(ui.tabWidget->count(),
+                                       ArtworkIcon(IOLArtworkImageMgr::CategoryFaceIDCustomize),
+                                       Text(QT_TR_NOOP("Custom")));
+    page->SetFormatNode(root, true);
     WatchFocus(page);
     ReportSelectionsOf(page);
 }
@@ -103,10 +105,9 @@ void RPFmtSelectionDlg::InitDefaultFormatNode()
 
 void RPFmtSelectionDlg::AddCategory(const std::shared_ptr<IOLFormatNode> &category)
 {
-    RPFmtNodeWdg *page = CreateNodeWdg(category, false);
-    const int customTab = ui.tabWidget->count() - 1;
-    ui.tabWidget->insertTab(customTab, page, ArtworkIcon(category->FaceID()),
-                            TranslateFormatText(category->Name()));
+    RPFmtNodeWdg *page = CreateNodeWdg(ui.tabWidget->count() - 1, ArtworkIcon(category->FaceID()),
+                                       TranslateFormatText(category->Name()));
+    page->SetFormatNode(category, false);
     WatchFocus(page);
     page->formatEditRequested = [this](const std::shared_ptr<IOLFormatPreset> &preset,
                                        const std::shared_ptr<IOLFormatNode> &node) {
@@ -138,10 +139,12 @@ void RPFmtSelectionDlg::InitEditingDlg()
             &RPFmtSelectionDlg::RefreshCustomTab);
 }
 
-RPFmtNodeWdg *RPFmtSelectionDlg::CreateNodeWdg(std::shared_ptr<IOLFormatNode> node, bool custom)
+// The page is filled when it is among the tabs: rows that moved there with it would be given their
+// style twice.
+RPFmtNodeWdg *RPFmtSelectionDlg::CreateNodeWdg(int tab, const QIcon &icon, const QString &text)
 {
     auto *page = new RPFmtNodeWdg(ui.tabWidget);
-    page->SetFormatNode(std::move(node), custom);
+    ui.tabWidget->insertTab(tab, page, icon, text);
     return page;
 }
 
@@ -400,8 +403,10 @@ void RPFmtSelectionDlg::closeEvent(QCloseEvent *event)
 void RPFmtSelectionDlg::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(188, 188, 188));
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::white);
+    const QRect inside = rect().adjusted(1, 1, -1, -1);
+    painter.fillRect(inside, Qt::white);
+    for (const QRect &edge : QRegion(rect()) - inside)
+        painter.fillRect(edge, QColor(188, 188, 188));
 }
 
 // An X11 window manager that takes the window into its frame can make Qt believe for good that the

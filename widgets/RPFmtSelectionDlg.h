@@ -62,7 +62,7 @@ private:
     void InitSearchEdit();
     void InitEditingDlg();
     void AddCategory(const std::shared_ptr<IOLFormatNode> &category);
-    RPFmtNodeWdg *CreateNodeWdg(std::shared_ptr<IOLFormatNode> node, bool custom);
+    RPFmtNodeWdg *CreateNodeWdg(int tab, const QIcon &icon, const QString &text);
     void WatchFocus(RPFmtNodeWdg *page);
     void ReportSelectionsOf(RPFmtNodeWdg *page);
 
