@@ -105,6 +105,7 @@ double HeapInUse()
 
 Comparison MeasureMemory(const QString &path, int presets)
 {
+    Load(path); // what the first load of a process keeps is not the tree's
     const double before = HeapInUse();
     const NodePointer root = Load(path);
     const double used = HeapInUse() - before;

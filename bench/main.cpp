@@ -48,8 +48,8 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     benchmark::Initialize(&argc, argv);
-    const QApplication application(argc, argv);
     const Test::IsolatedSettings settings;
+    const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == QLatin1StringView(Bench::sceneArgument)) {
         Bench::RunScene(arguments.mid(2));
