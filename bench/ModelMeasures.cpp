@@ -1,3 +1,4 @@
+#include "HeapUse.h"
 #include "Measures.h"
 #include "Samples.h"
 
@@ -17,8 +18,6 @@
 
 #include <QJsonDocument>
 #include <QSaveFile>
-
-#include <malloc.h>
 
 #include <algorithm>
 #include <cmath>
@@ -98,17 +97,12 @@ Comparison MeasureLoad(const QString &path)
             });
 }
 
-double HeapInUse()
-{
-    return static_cast<double>(mallinfo2().uordblks) + static_cast<double>(mallinfo2().hblkhd);
-}
-
 Comparison MeasureMemory(const QString &path, int presets)
 {
     Load(path); // what the first load of a process keeps is not the tree's
-    const double before = HeapInUse();
+    const std::size_t before = HeapUse();
     const NodePointer root = Load(path);
-    const double used = HeapInUse() - before;
+    const auto used = static_cast<double>(HeapUse() - before);
     const auto texts = static_cast<double>(TextSize(*root));
     const double onTop = (used - texts) / presets;
     return { used, texts, onTop, byteUnit };

@@ -33,6 +33,7 @@ OLOptionListPointer<Option> ReadOptionList(std::string id, OLJsonPath &path,
     auto list = std::make_shared<OLOptionList<Option>>();
     list->id = std::move(id);
     const QJsonArray array = value.toArray();
+    list->options.reserve(static_cast<std::size_t>(array.size()));
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(path, i);
         Option &option = list->options.emplace_back();
@@ -155,6 +156,7 @@ OLEncoderSetPointer OLCodecTableReader::ReadEncoderSet(std::string id,
     set->id = std::move(id);
     OLEncoderPointer known;
     const QJsonArray array = value.toArray();
+    set->encoders.reserve(static_cast<std::size_t>(array.size()));
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(m_path, i);
         OLEncoderPointer &encoder = set->encoders.emplace_back();

@@ -33,17 +33,6 @@ std::string ToStdString(const QString &text)
 
 } // namespace
 
-OLJsonPath::Scope::Scope(OLJsonPath &path, Step step)
-    : m_path(path)
-{
-    m_path.m_steps.push_back(std::move(step));
-}
-
-OLJsonPath::Scope::~Scope()
-{
-    m_path.m_steps.pop_back();
-}
-
 void OLJsonPath::Fail(std::string reason) const
 {
     throw OLJsonFault { ToPointer(), std::move(reason) };

@@ -32,10 +32,16 @@ public:
     class Scope
     {
     public:
-        Scope(OLJsonPath &path, Step step);
+        template<class Part>
+        Scope(OLJsonPath &path, Part step)
+            : m_path(path)
+        {
+            m_path.m_steps.emplace_back(std::move(step));
+        }
+
         Scope(const Scope &) = delete;
         Scope &operator=(const Scope &) = delete;
-        ~Scope();
+        ~Scope() { m_path.m_steps.pop_back(); }
 
     private:
         OLJsonPath &m_path;
@@ -74,6 +80,9 @@ public:
     // The value is a QJsonValue or what stands for one in an array or object.
     template<class Value>
     OLJsonMembers(OLJsonPath &path, const Value &value);
+    OLJsonMembers(const OLJsonMembers &) = delete;
+    OLJsonMembers &operator=(const OLJsonMembers &) = delete;
+    ~OLJsonMembers() = default;
 
     QJsonValue Required(QLatin1StringView name);
     QJsonValue Optional(QLatin1StringView name); // undefined where it is absent
@@ -109,7 +118,7 @@ private:
 
     Member Find(QLatin1StringView name); // the end where it is absent
     Member FindRequired(QLatin1StringView name);
-    bool IsThere(Member member) const { return member != m_object.constEnd(); }
+    bool IsThere(Member member) const { return member != m_end; }
 
     std::string TextOf(QLatin1StringView name, Member member);
     int IntegerOf(QLatin1StringView name, Member member, int minimum, int maximum);
@@ -117,7 +126,8 @@ private:
     QJsonArray ArrayOrNone(QLatin1StringView name);
 
     OLJsonPath &m_path;
-    QJsonObject m_object;
+    const QJsonObject m_object;
+    const Member m_end;
     QVarLengthArray<QLatin1StringView, 16> m_taken;
 };
 
@@ -141,6 +151,7 @@ template<class Value>
 OLJsonMembers::OLJsonMembers(OLJsonPath &path, const Value &value)
     : m_path(path)
     , m_object(value.toObject())
+    , m_end(m_object.constEnd())
 {
     if (!value.isObject())
         m_path.Fail("an object is expected");
