@@ -17,8 +17,8 @@ constexpr int cloneAttributes = 1;
 constexpr std::size_t longestShortKeyword = 32;
 
 // A long keyword is found by the algorithm of Knuth, Morris and Pratt: in a time that grows with
-// the text only, however much keyword and text repeat themselves. For a short one the plain search
-// is faster, and cannot lose more time than its length allows.
+// the text only, however much keyword and text repeat themselves. For a short one the standard
+// library is faster, and cannot lose more time than its length allows.
 class Keyword
 {
 public:
@@ -31,21 +31,18 @@ public:
             m_borders[i] = border = Extended(border, folded[i]);
     }
 
-    bool Matches(std::string_view text) const
-    {
-        if (m_folded.size() <= longestShortKeyword)
-            return IOLStringHelper::ContainsInLowerCase(text, m_folded);
-        return OccursIn(IOLStringHelper::ToLower(std::string(text)));
-    }
+    bool Matches(const std::string &text) const { return OccursIn(IOLStringHelper::ToLower(text)); }
 
     bool Matches(const IOLFormatPreset &preset) const
     {
-        return Matches(preset.NameView()) || Matches(preset.DescriptionView());
+        return Matches(preset.Name()) || Matches(preset.Description());
     }
 
 private:
     bool OccursIn(const std::string &foldedText) const
     {
+        if (m_folded.size() <= longestShortKeyword)
+            return foldedText.find(m_folded) != std::string::npos;
         std::size_t matched = 0;
         for (const char c : foldedText) {
             matched = Extended(matched, c);
@@ -105,7 +102,7 @@ std::shared_ptr<IOLFormatNode> MatchesBelow(IOLFormatNode &node, const Keyword &
     }
     for (int i = 0; i < node.ChildCount(); ++i) {
         const auto child = node.ChildAt(i);
-        if (keyword.Matches(child->NameView()))
+        if (keyword.Matches(child->Name()))
             matches.Add(child->Clone(IOLFormatNode::CloneAll));
         else if (auto below = MatchesBelow(*child, keyword))
             matches.Add(std::move(below));

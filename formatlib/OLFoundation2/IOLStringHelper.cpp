@@ -9,12 +9,9 @@ namespace Orlimo {
 
 namespace {
 
-bool IsAscii(std::string_view text)
+bool IsAscii(char c)
 {
-    unsigned char bits = 0;
-    for (const char c : text)
-        bits |= static_cast<unsigned char>(c);
-    return bits < 0x80;
+    return static_cast<unsigned char>(c) < 0x80;
 }
 
 char AsciiToLower(char c)
@@ -93,19 +90,11 @@ std::string UnicodeToLower(std::string_view text)
 
 std::string IOLStringHelper::ToLower(const std::string &text)
 {
-    if (!IsAscii(text))
+    if (!std::ranges::all_of(text, IsAscii))
         return UnicodeToLower(text);
     std::string lowered(text.size(), '\0');
     std::ranges::transform(text, lowered.begin(), AsciiToLower);
     return lowered;
-}
-
-// An ASCII text needs no copy in lower case, which takes more time than the search.
-bool IOLStringHelper::ContainsInLowerCase(std::string_view text, std::string_view part)
-{
-    if (!IsAscii(text))
-        return UnicodeToLower(text).find(part) != std::string::npos;
-    return !std::ranges::search(text, part, {}, AsciiToLower).empty();
 }
 
 } // namespace Orlimo

@@ -3,7 +3,6 @@
 #include "olfoundation2_export.h"
 
 #include <string>
-#include <string_view>
 
 namespace Orlimo {
 
@@ -17,10 +16,6 @@ public:
     /// those that depend on the locale or on the neighbouring letters. Bytes that are not
     /// well-formed UTF-8 are kept as they are. A text in lower case comes back unchanged.
     static std::string ToLower(const std::string &text);
-
-    /// Returns whether @p part, which is in lower case and not empty, occurs in ToLower(@p text),
-    /// byte by byte. Takes a time that grows with the product of the two sizes at worst.
-    static bool ContainsInLowerCase(std::string_view text, std::string_view part);
 };
 
 } // namespace Orlimo

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace Orlimo {
 
@@ -109,9 +108,6 @@ public:
     /// Returns whether @p other has the same name, description and face id; presets, children and
     /// parent do not count. False for an empty pointer.
     virtual bool IsEqual(std::shared_ptr<const IOLFormatNode> other) const = 0;
-
-    /// Returns the text of Name() without a copy; valid until the node is renamed or destroyed.
-    virtual std::string_view NameView() const = 0;
 
     /// Returns the first child.
     std::shared_ptr<IOLFormatNode> FirstChild() const;

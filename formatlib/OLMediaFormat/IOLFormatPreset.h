@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace Orlimo {
 
@@ -81,11 +80,6 @@ public:
     virtual int CurrentAudioCodecIndex() const = 0;
     /// Chooses the audio encoder at @p index; an index outside the list is ignored.
     virtual void SetCurrentAudioCodecIndex(int index) = 0;
-
-    /// Returns the text of Name() without a copy; valid until the preset is renamed or destroyed.
-    virtual std::string_view NameView() const = 0;
-    /// Returns the text of Description() without a copy; valid until the preset is destroyed.
-    virtual std::string_view DescriptionView() const = 0;
 
     /// Returns the chosen video encoder, empty where none is.
     std::shared_ptr<IOLCodecPreset> CurrentVideoCodec() const;

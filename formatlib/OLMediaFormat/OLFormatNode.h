@@ -43,7 +43,6 @@ public:
     std::shared_ptr<IOLFormatNode> FindChild(std::string name) const override;
 
     bool IsEqual(std::shared_ptr<const IOLFormatNode> other) const override;
-    std::string_view NameView() const override { return m_name; }
 
 private:
     std::shared_ptr<OLFormatNode> CloneAttributes() const;

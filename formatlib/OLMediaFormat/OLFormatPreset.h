@@ -43,9 +43,6 @@ public:
     int CurrentAudioCodecIndex() const override;
     void SetCurrentAudioCodecIndex(int index) override;
 
-    std::string_view NameView() const override { return m_texts.name; }
-    std::string_view DescriptionView() const override { return m_texts.description; }
-
 private:
     Texts m_texts;
     OLCodecList m_video;

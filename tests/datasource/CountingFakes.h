@@ -43,7 +43,6 @@ public:
         return equal;
     }
 
-    std::string_view NameView() const override { return name; }
     Node Parent() const override { return {}; }
     void SetParent(Node) override { }
     void SetFaceID(int) override { }
@@ -94,8 +93,6 @@ public:
     void SetFaceID(int) override { }
     void SetName(std::string) override { }
     std::string Description() const override { return {}; }
-    std::string_view NameView() const override { return name; }
-    std::string_view DescriptionView() const override { return {}; }
     std::string FormatName() const override { return {}; }
     Preset Clone() const override { return {}; }
     void CopySettingsFrom(Preset) override { }

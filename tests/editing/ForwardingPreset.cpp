@@ -40,16 +40,6 @@ std::string ForwardingPreset::Description() const
     return m_preset->Description();
 }
 
-std::string_view ForwardingPreset::NameView() const
-{
-    return m_preset->NameView();
-}
-
-std::string_view ForwardingPreset::DescriptionView() const
-{
-    return m_preset->DescriptionView();
-}
-
 std::string ForwardingPreset::FormatName() const
 {
     return m_preset->FormatName();

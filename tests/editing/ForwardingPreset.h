@@ -16,8 +16,6 @@ public:
     std::string Name() const override;
     void SetName(std::string name) override;
     std::string Description() const override;
-    std::string_view NameView() const override;
-    std::string_view DescriptionView() const override;
     std::string FormatName() const override;
     std::shared_ptr<Orlimo::IOLFormatPreset> Clone() const override;
     void CopySettingsFrom(std::shared_ptr<Orlimo::IOLFormatPreset> other) override;

@@ -90,7 +90,6 @@ private Q_SLOTS:
         node->SetDescription("MP4 日本");
         node->SetFaceID(-7);
         QCOMPARE(node->Name(), std::string("ä\n"));
-        QCOMPARE(node->NameView(), std::string_view("ä\n"));
         QCOMPARE(node->Description(), std::string("MP4 日本"));
         QCOMPARE(node->FaceID(), -7);
     }

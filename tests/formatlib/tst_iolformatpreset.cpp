@@ -39,8 +39,6 @@ private Q_SLOTS:
         QCOMPARE(preset->Name(), std::string("MP4"));
         QCOMPARE(preset->FormatName(), std::string("MP4"));
         QCOMPARE(preset->Description(), std::string("second text"));
-        QCOMPARE(preset->NameView(), std::string_view("MP4"));
-        QCOMPARE(preset->DescriptionView(), std::string_view("second text"));
         QCOMPARE(preset->FaceID(), 0);
         QCOMPARE(DefaultPreset()->Description(), std::string());
     }

@@ -52,39 +52,6 @@ private Q_SLOTS:
         QCOMPARE(QByteArray::fromStdString(once), lowered);
         QCOMPARE(IOLStringHelper::ToLower(once), once);
     }
-
-    void containsInLowerCaseFindsWhatTheLoweredTextHas_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("part");
-        QTest::addColumn<bool>("found");
-        QTest::newRow("at the start") << QByteArray("AVI file") << QByteArray("avi") << true;
-        QTest::newRow("at the end") << QByteArray("HD 1080P") << QByteArray("80p") << true;
-        QTest::newRow("after a false start") << QByteArray("AAB") << QByteArray("ab") << true;
-        QTest::newRow("cut by the end") << QByteArray("HD 108") << QByteArray("080") << false;
-        QTest::newRow("in capitals") << QByteArray("AVI") << QByteArray("AVI") << false;
-        QTest::newRow("longer than the text") << QByteArray("mp") << QByteArray("mp4") << false;
-        QTest::newRow("empty text") << QByteArray() << QByteArray("a") << false;
-        QTest::newRow("behind a zero byte") << QByteArray("A\0B", 3) << QByteArray("b") << true;
-        QTest::newRow("beyond ascii") << QByteArray("Größe") << QByteArray("größe") << true;
-        QTest::newRow("ascii in another text") << QByteArray("ÄVI") << QByteArray("vi") << true;
-        QTest::newRow("part beyond ascii") << QByteArray("GR") << QByteArray("ö") << false;
-        QTest::newRow("becomes longer") << QByteArray("İx") << QByteArray("i\xCC\x87x") << true;
-        QTest::newRow("stray byte") << QByteArray("A\x80Ä") << QByteArray("a\x80ä") << true;
-    }
-
-    void containsInLowerCaseFindsWhatTheLoweredTextHas()
-    {
-        QFETCH(const QByteArray, text);
-        QFETCH(const QByteArray, part);
-        QFETCH(const bool, found);
-        const std::string lowered = IOLStringHelper::ToLower(text.toStdString());
-        QCOMPARE(lowered.find(part.toStdString()) != std::string::npos, found);
-        const auto view = [](const QByteArray &bytes) {
-            return std::string_view(bytes.constData(), std::size_t(bytes.size()));
-        };
-        QCOMPARE(IOLStringHelper::ContainsInLowerCase(view(text), view(part)), found);
-    }
 };
 
 ORLIMO_TEST_MAIN(tst_IOLStringHelper)

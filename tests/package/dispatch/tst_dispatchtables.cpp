@@ -114,8 +114,7 @@ QStringList NodeOperations()
              u"RemoveChild(shared_ptr<IOLFormatNode>)"_s,
              u"RemoveChildAt(int)"_s,
              u"FindChild(string) const"_s,
-             u"IsEqual(shared_ptr<IOLFormatNode const>) const"_s,
-             u"NameView() const"_s };
+             u"IsEqual(shared_ptr<IOLFormatNode const>) const"_s };
 }
 
 QStringList PresetOperations()
@@ -134,9 +133,7 @@ QStringList PresetOperations()
              u"AudioCodecCount() const"_s,
              u"AudioCodecAt(int) const"_s,
              u"CurrentAudioCodecIndex() const"_s,
-             u"SetCurrentAudioCodecIndex(int)"_s,
-             u"NameView() const"_s,
-             u"DescriptionView() const"_s };
+             u"SetCurrentAudioCodecIndex(int)"_s };
 }
 
 QStringList CodecOperations()
