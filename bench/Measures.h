@@ -3,13 +3,16 @@
 #include "Comparison.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace Bench {
 
-// One line of the table: what is measured against what, and the figure to reach, in the unit of the
-// comparison. The measuring is done when the line is printed.
-void AddMeasure(std::string what, std::string size, double toReach,
+constexpr std::nullopt_t noAim = std::nullopt;
+
+// One line of the table: what is measured against what, and the figure to reach, if any, in the
+// unit of the comparison. The measuring is done when the line is printed.
+void AddMeasure(std::string what, std::string size, std::optional<double> toReach,
                 std::function<Comparison()> measure);
 
 void AddModelMeasures();

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int loadedPresets = 100'000;
 constexpr int openedPresets = 200;
+constexpr auto popup = QLatin1StringView(popupPicker);
+constexpr auto bare = QLatin1StringView(barePicker);
 
 // The artwork of the generated descriptions, which have the faces of the shipped one.
 QByteArray Artwork()
@@ -74,39 +76,42 @@ Comparison Compared(const QList<Figures> &rounds)
     return compared.Compared();
 }
 
-Comparison MeasureSearching(int presets, const QString &key)
+Comparison MeasureSearching(const QString &picker, int presets, const QString &key)
 {
-    return Compared(
-            RunInProcess({ QLatin1StringView(searchScene), DescriptionWithArtwork(presets), key }));
+    return Compared(RunInProcess(
+            { QLatin1StringView(searchScene), picker, DescriptionWithArtwork(presets), key }));
 }
 
-Comparison MeasureOpening()
+Comparison MeasureOpening(const QString &picker)
 {
     QList<Figures> rounds;
     for (int i = 0; i < usualRounds; ++i) {
-        const QString first = i % 2 == 0 ? u"popup"_s : u"window"_s;
-        rounds += RunInProcess(
-                { QLatin1StringView(openingScene), DescriptionWithArtwork(openedPresets), first });
+        const QString first = i % 2 == 0 ? u"picker"_s : u"window"_s;
+        rounds += RunInProcess({ QLatin1StringView(openingScene), picker,
+                                 DescriptionWithArtwork(openedPresets), first });
     }
     return Compared(rounds);
 }
 
-Comparison MeasureReopening()
+Comparison MeasureReopening(const QString &picker)
 {
     return Compared(RunInProcess(
-            { QLatin1StringView(reopeningScene), DescriptionWithArtwork(openedPresets) }));
+            { QLatin1StringView(reopeningScene), picker, DescriptionWithArtwork(openedPresets) }));
+}
+
+QList<Figures> RunLoading(const QString &picker)
+{
+    QList<Figures> rounds;
+    for (int i = 0; i < usualRounds; ++i) {
+        rounds += RunInProcess(
+                { QLatin1StringView(loadingScene), picker, DescriptionWithArtwork(loadedPresets) });
+    }
+    return rounds;
 }
 
 const QList<Figures> &LoadingRounds()
 {
-    static const QList<Figures> rounds = [] {
-        QList<Figures> all;
-        for (int i = 0; i < usualRounds; ++i) {
-            all += RunInProcess(
-                    { QLatin1StringView(loadingScene), DescriptionWithArtwork(loadedPresets) });
-        }
-        return all;
-    }();
+    static const QList<Figures> rounds = RunLoading(popup);
     return rounds;
 }
 
@@ -119,10 +124,10 @@ double MedianOf(const QList<Figures> &rounds, int column)
 }
 
 // The column of the scene's figures, against the one without a load.
-Comparison MeasureStall(int column)
+Comparison StallOf(const QList<Figures> &rounds, int column)
 {
-    const double stall = MedianOf(LoadingRounds(), column);
-    return { stall, MedianOf(LoadingRounds(), 2), stall, millisecondUnit };
+    const double stall = MedianOf(rounds, column);
+    return { stall, MedianOf(rounds, 2), stall, millisecondUnit };
 }
 
 struct Key
@@ -131,27 +136,53 @@ struct Key
     std::string finds;
 };
 
+const Key keys[] = { { u"#"_s, "all" }, { u"%"_s, "1 %" }, { u"~"_s, "nothing" } };
+
+std::string Presets(int count)
+{
+    return std::to_string(count) + " presets";
+}
+
+// What the widgets take that the picker has to consist of, measured as the picker is.
+void AddBounds()
+{
+    for (const int presets : { 10'000, 100'000 }) {
+        for (const Key &key : keys) {
+            AddMeasure("bound: key press that finds " + key.finds
+                               + ", bare widgets against a tree view",
+                       Presets(presets), noAim,
+                       [=] { return MeasureSearching(bare, presets, key.text); });
+        }
+    }
+    AddMeasure("bound: open first, bare widgets against an empty window", Presets(openedPresets),
+               noAim, [] { return MeasureOpening(bare); });
+    AddMeasure("bound: open again, bare widgets against an empty window", Presets(openedPresets),
+               noAim, [] { return MeasureReopening(bare); });
+    AddMeasure("bound: insertion of the categories, bare widgets", Presets(loadedPresets), noAim,
+               [] { return StallOf(RunLoading(bare), 1); });
+}
+
 } // namespace
 
 void AddPopupMeasures()
 {
-    const Key keys[] = { { u"#"_s, "all" }, { u"%"_s, "1 %" }, { u"~"_s, "nothing" } };
     for (const int presets : { 200, 1'000, 10'000, 100'000 }) {
         const double toReach = presets < 10'000 ? 1 : 0.5;
         for (const Key &key : keys) {
             AddMeasure("key press that finds " + key.finds + ", against a tree view",
-                       std::to_string(presets) + " presets", toReach,
-                       [=] { return MeasureSearching(presets, key.text); });
+                       Presets(presets), toReach,
+                       [=] { return MeasureSearching(popup, presets, key.text); });
         }
     }
-    const std::string opened = std::to_string(openedPresets) + " presets";
-    AddMeasure("open the popup first, against an empty window", opened, 5, MeasureOpening);
-    AddMeasure("open the popup again, against an empty window", opened, 1.5, MeasureReopening);
-    const std::string loaded = std::to_string(loadedPresets) + " presets";
-    AddMeasure("longest stall of a load, insertion apart", loaded, 16,
-               [] { return MeasureStall(0); });
-    AddMeasure("stall at the insertion of the categories", loaded, 50,
-               [] { return MeasureStall(1); });
+    AddMeasure("open the popup first, against an empty window", Presets(openedPresets), 5,
+               [] { return MeasureOpening(popup); });
+    AddMeasure("open the popup again, against an empty window", Presets(openedPresets), 1.5,
+               [] { return MeasureReopening(popup); });
+    AddMeasure("longest stall of a load, insertion apart", Presets(loadedPresets), 16,
+               [] { return StallOf(LoadingRounds(), 0); });
+    AddMeasure("stall at the insertion of the categories", Presets(loadedPresets), 50,
+               [] { return StallOf(LoadingRounds(), 1); });
+    AddBounds();
 }
 
 } // namespace Bench

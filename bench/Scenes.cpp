@@ -2,22 +2,24 @@
 
 #include "EventWatch.h"
 #include "Heartbeat.h"
+#include "Picker.h"
 #include "StockPicker.h"
 
 #include "IOLFmtPresetDataSource.h"
 #include "IOLFormatNode.h"
 #include "IOLMediaFormatPopup.h"
-#include "RPFmtNodeWdg.h"
-#include "RPFmtSelectionDlg.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 
@@ -43,30 +45,6 @@ void Load(const QString &path)
     IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
 }
 
-void ShowPopup()
-{
-    IOLMediaFormatPopup::Shared()->ShowFormatPopupAt({ 0, 0 }, {});
-}
-
-RPFmtSelectionDlg *Popup()
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (auto *popup = qobject_cast<RPFmtSelectionDlg *>(window))
-            return popup;
-    }
-    qFatal("there is no popup");
-}
-
-QTabWidget *Tabs()
-{
-    return Popup()->findChild<QTabWidget *>();
-}
-
-RPFmtNodeWdg *CurrentPage()
-{
-    return qobject_cast<RPFmtNodeWdg *>(Tabs()->currentWidget());
-}
-
 bool IsPainted(const EventWatch &watch, const QListWidget &list)
 {
     const QRect visible = list.viewport()->rect();
@@ -80,15 +58,17 @@ bool IsPainted(const EventWatch &watch, const QListWidget &list)
     return watch.WasPainted(list.viewport());
 }
 
-bool AreRowsPainted(const EventWatch &watch)
+bool AreRowsPainted(const EventWatch &watch, const Picker &picker)
 {
-    const RPFmtNodeWdg *page = CurrentPage();
-    return IsPainted(watch, *page->NodeList()) && IsPainted(watch, *page->FormatList());
+    const auto lists = picker.Tabs()->currentWidget()->findChildren<QListWidget *>(
+            Qt::FindDirectChildrenOnly);
+    return std::ranges::all_of(lists,
+                               [&](const QListWidget *list) { return IsPainted(watch, *list); });
 }
 
-bool IsPopupPainted(const EventWatch &watch)
+bool IsPickerPainted(const EventWatch &watch, const Picker &picker)
 {
-    return watch.WasPainted(Popup()) && AreRowsPainted(watch);
+    return watch.WasPainted(picker.Window()) && AreRowsPainted(watch, picker);
 }
 
 // A window as a host has one open before it asks for a popup, so that neither side of a comparison
@@ -115,12 +95,6 @@ public:
         (new QVBoxLayout(this))->addWidget(tabs);
     }
 };
-
-void Show(QWidget &window)
-{
-    window.show();
-    window.activateWindow();
-}
 
 void Hide(QWidget &window)
 {
@@ -151,14 +125,18 @@ void EmptyAndHide(QLineEdit &searchBox)
     Hide(*searchBox.window());
 }
 
-Nanoseconds SearchInPopup(const QString &key)
+Nanoseconds SearchInPicker(Picker &picker, const QString &key)
 {
-    ShowPopup();
+    picker.Show();
     RunUntilIdle();
-    auto *searchBox = Popup()->findChild<QLineEdit *>();
+    picker.ExpectSearch(key);
+    QLineEdit *searchBox = picker.SearchBox();
     Focus(*searchBox);
     RunFor(fadeOfClearButton);
-    const Nanoseconds time = UntilPainted([&] { PressKey(key); }, AreRowsPainted);
+    const Nanoseconds time = UntilPainted([&] { PressKey(key); },
+                                          [&](const EventWatch &watch) {
+                                              return AreRowsPainted(watch, picker);
+                                          });
     EmptyAndHide(*searchBox);
     return time;
 }
@@ -178,23 +156,27 @@ Nanoseconds SearchInStockPicker(StockPicker &picker, const QString &key)
     return time;
 }
 
-void RunSearch(const QString &path, const QString &key)
+void RunSearch(const QString &kind, const QString &path, const QString &key)
 {
     Load(path);
-    ShowPopup();
-    const int category = Tabs()->currentIndex() - 1; // after the recent choices
+    const auto picker = Picker::Of(kind);
+    picker->Show();
+    const int category = picker->Tabs()->currentIndex() - 1; // after the recent choices
     const auto root = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode();
-    StockPicker picker(*root->ChildAt(category));
+    StockPicker stockPicker(*root->ChildAt(category));
     for (int round = 0; round < usualRounds; ++round) {
-        const Nanoseconds ours = SearchInPopup(key);
-        PrintRound({ ours, SearchInStockPicker(picker, key) });
+        const Nanoseconds ours = SearchInPicker(*picker, key);
+        PrintRound({ ours, SearchInStockPicker(stockPicker, key) });
     }
 }
 
-Nanoseconds OpenPopup()
+Nanoseconds Open(Picker &picker)
 {
-    const Nanoseconds time = UntilPainted(ShowPopup, IsPopupPainted);
-    Hide(*Popup());
+    const Nanoseconds time = UntilPainted([&] { picker.Show(); },
+                                          [&](const EventWatch &watch) {
+                                              return IsPickerPainted(watch, picker);
+                                          });
+    Hide(*picker.Window());
     return time;
 }
 
@@ -209,16 +191,17 @@ Nanoseconds OpenNewWindow()
             [&](const EventWatch &watch) { return watch.WasPainted(window.get()); });
 }
 
-void RunOpening(const QString &path, bool popupFirst)
+void RunOpening(const QString &kind, const QString &path, bool windowFirst)
 {
     Load(path);
+    const auto picker = Picker::Of(kind);
     const HostWindow host;
-    if (popupFirst) {
-        const Nanoseconds ours = OpenPopup();
-        PrintRound({ ours, OpenNewWindow() });
-    } else {
+    if (windowFirst) {
         const Nanoseconds other = OpenNewWindow();
-        PrintRound({ OpenPopup(), other });
+        PrintRound({ Open(*picker), other });
+    } else {
+        const Nanoseconds ours = Open(*picker);
+        PrintRound({ ours, OpenNewWindow() });
     }
 }
 
@@ -232,15 +215,16 @@ Nanoseconds Reopen(QWidget &window)
     return time;
 }
 
-void RunReopening(const QString &path)
+void RunReopening(const QString &kind, const QString &path)
 {
     Load(path);
+    const auto picker = Picker::Of(kind);
     const HostWindow host;
     TabWindow window;
-    OpenPopup();
+    Open(*picker);
     Reopen(window);
     for (int round = 0; round < usualRounds; ++round) {
-        const Nanoseconds ours = OpenPopup();
+        const Nanoseconds ours = Open(*picker);
         PrintRound({ ours, Reopen(window) });
     }
 }
@@ -276,30 +260,50 @@ private:
     Heartbeat m_heartbeat;
 };
 
-void LoadUnderPopup(const QString &path, const Stalls &stalls)
+void PrintStalls(const QTabWidget &tabs, const std::function<void()> &startInsertion)
 {
-    IOLMediaFormatPopup::SetupExternalFormatData(path.toStdString());
-    while (!stalls.HasInsertion())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    RunFor(settling);
-}
-
-void RunLoading(const QString &path)
-{
-    ShowPopup();
     RunFor(settling);
     Nanoseconds longest {};
     Nanoseconds atInsertion {};
     const Nanoseconds duration = Elapsed([&] {
-        const Stalls stalls(*Tabs());
-        LoadUnderPopup(path, stalls);
+        const Stalls stalls(tabs);
+        startInsertion();
+        while (!stalls.HasInsertion())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        RunFor(settling);
         longest = stalls.Longest();
         atInsertion = stalls.AtInsertion();
     });
-    IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
-    const Stalls withoutLoad(*Tabs());
+    const Stalls withoutLoad(tabs);
     RunFor(std::chrono::duration_cast<std::chrono::milliseconds>(duration));
     PrintRound({ longest, atInsertion, withoutLoad.Longest() });
+}
+
+void RunLoadingUnderPopup(const QString &path)
+{
+    const auto popup = Picker::Of(QLatin1StringView(popupPicker));
+    popup->Show();
+    PrintStalls(*popup->Tabs(),
+                [&] { IOLMediaFormatPopup::SetupExternalFormatData(path.toStdString()); });
+    IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
+}
+
+void RunBareInsertion(const QString &path)
+{
+    Load(path);
+    const QList<PageRows> categories = CategoryRows();
+    BarePicker picker;
+    Show(picker);
+    PrintStalls(*picker.Tabs(),
+                [&] { QTimer::singleShot(0, &picker, [&] { picker.AddCategories(categories); }); });
+}
+
+void RunLoading(const QString &kind, const QString &path)
+{
+    if (kind == QLatin1StringView(popupPicker))
+        RunLoadingUnderPopup(path);
+    else
+        RunBareInsertion(path);
 }
 
 } // namespace
@@ -307,15 +311,16 @@ void RunLoading(const QString &path)
 void RunScene(const QStringList &arguments)
 {
     const QString &scene = arguments.at(0);
-    const QString &path = arguments.at(1);
+    const QString &picker = arguments.at(1);
+    const QString &path = arguments.at(2);
     if (scene == QLatin1StringView(searchScene))
-        RunSearch(path, arguments.at(2));
+        RunSearch(picker, path, arguments.at(3));
     else if (scene == QLatin1StringView(openingScene))
-        RunOpening(path, arguments.at(2) == QLatin1StringView("popup"));
+        RunOpening(picker, path, arguments.at(3) == QLatin1StringView("window"));
     else if (scene == QLatin1StringView(reopeningScene))
-        RunReopening(path);
+        RunReopening(picker, path);
     else if (scene == QLatin1StringView(loadingScene))
-        RunLoading(path);
+        RunLoading(picker, path);
     else
         qFatal("there is no scene %s", qUtf8Printable(scene));
 }

@@ -8,14 +8,21 @@ namespace Bench {
 // once in a process. A scene is started by these arguments: this one, its name, and its own.
 constexpr char sceneArgument[] = "--scene";
 
-// Searches the popup and a StockPicker for a key, by turns: the path of a description, the key.
+// The pickers that a scene is about: the popup, or the bare widgets that it consists of.
+constexpr char popupPicker[] = "popup";
+constexpr char barePicker[] = "bare";
+
+// Searches a picker and a StockPicker for a key, by turns: the picker, the path of a description,
+// the key.
 constexpr char searchScene[] = "search";
-// Opens the popup for the first time, and a window: the path, and "popup" where that comes first.
+// Opens a picker for the first time, and a window: the picker, the path, and "window" where that
+// comes first.
 constexpr char openingScene[] = "opening";
-// Opens the popup and a window again, by turns: the path.
+// Opens a picker and a window again, by turns: the picker, the path.
 constexpr char reopeningScene[] = "reopening";
-// Loads a description under the open popup: the path. The figures are the longest stalls of the GUI
-// thread beside the insertion of the categories, at the insertion, and without a load.
+// Puts the categories of a description into an open picker: the picker, the path. The popup loads
+// it meanwhile. The figures are the longest stalls of the GUI thread beside the insertion of the
+// categories, at the insertion, and without a load.
 constexpr char loadingScene[] = "loading";
 
 // Prints a line of figures in milliseconds for each round.

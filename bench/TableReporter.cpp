@@ -4,24 +4,43 @@
 
 namespace Bench {
 
+namespace {
+
+constexpr int nameWidth = 86;
+
+void PrintAim(const benchmark::UserCounters &counters, const std::string &unit)
+{
+    const auto aim = counters.find("to_reach");
+    if (aim == counters.end()) {
+        std::printf(" %8s %s\n", "-", unit.c_str());
+        return;
+    }
+    const double toReach = aim->second.value;
+    const bool reached = counters.at("figure").value <= toReach;
+    std::printf(" %8.2f %-5s %s\n", toReach, unit.c_str(), reached ? "" : "NOT REACHED");
+}
+
+} // namespace
+
 bool TableReporter::ReportContext(const Context &)
 {
-    std::printf("%-62s %10s %10s %8s %8s %s\n", "", "ours", "against", "figure", "to reach", "in");
+    std::printf("%-*s %10s %10s %8s %8s %s\n", nameWidth, "", "ours", "against", "figure",
+                "to reach", "in");
     return true;
 }
 
 void TableReporter::ReportRuns(const std::vector<Run> &runs)
 {
     for (const Run &run : runs) {
-        const auto counter = [&](const char *name) { return run.counters.at(name).value; };
         if (run.error_occurred) {
-            std::printf("%-62s %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
+            std::printf("%-*s %s\n", nameWidth, run.benchmark_name().c_str(),
+                        run.error_message.c_str());
             continue;
         }
-        const bool reached = counter("figure") <= counter("to_reach");
-        std::printf("%-62s %10.4g %10.4g %8.2f %8.2f %-5s %s\n", run.run_name.function_name.c_str(),
-                    counter("ours"), counter("against"), counter("figure"), counter("to_reach"),
-                    run.report_label.c_str(), reached ? "" : "NOT REACHED");
+        const auto counter = [&](const char *name) { return run.counters.at(name).value; };
+        std::printf("%-*s %10.4g %10.4g %8.2f", nameWidth, run.run_name.function_name.c_str(),
+                    counter("ours"), counter("against"), counter("figure"));
+        PrintAim(run.counters, run.report_label);
         std::fflush(stdout);
     }
 }

@@ -4,8 +4,8 @@
 
 namespace Bench {
 
-// Prints one line for each comparison: the medians, its figure, the figure to reach, and the unit
-// of both. Where the unit is x, the figure is a ratio and the medians are in milliseconds;
+// Prints one line for each comparison: the medians, its figure, the figure to reach or "-", and the
+// unit of both. Where the unit is x, the figure is a ratio and the medians are in milliseconds;
 // otherwise they are in that unit too.
 class TableReporter final : public benchmark::BenchmarkReporter
 {

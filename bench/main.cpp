@@ -20,7 +20,7 @@ double Seconds(const Comparison &comparison)
 
 } // namespace
 
-void AddMeasure(std::string what, std::string size, double toReach,
+void AddMeasure(std::string what, std::string size, std::optional<double> toReach,
                 std::function<Comparison()> measure)
 {
     const auto run = [toReach, measure](benchmark::State &state) {
@@ -31,7 +31,8 @@ void AddMeasure(std::string what, std::string size, double toReach,
             state.counters["ours"] = comparison.ours;
             state.counters["against"] = comparison.other;
             state.counters["figure"] = comparison.figure;
-            state.counters["to_reach"] = toReach;
+            if (toReach)
+                state.counters["to_reach"] = *toReach;
         }
     };
     const std::string name = what + ", " + size;
