@@ -2,13 +2,12 @@
 
 #include <malloc.h>
 
-#include <atomic>
 #include <cstdlib>
 #include <new>
 
 namespace {
 
-std::atomic<std::size_t> use = 0;
+thread_local std::size_t use = 0;
 
 std::size_t SizeOf(void *block)
 {

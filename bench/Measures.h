@@ -15,6 +15,10 @@ constexpr std::nullopt_t noAim = std::nullopt;
 void AddMeasure(std::string what, std::string size, std::optional<double> toReach,
                 std::function<Comparison()> measure);
 
+// Makes the application object, if it is not there yet. It comes after the measures of the model:
+// Qt leaves the vector registers of a thread in a state that makes some processors slow.
+void NeedApplication();
+
 void AddModelMeasures();
 void AddPopupMeasures();
 void AddWidgetMeasures();

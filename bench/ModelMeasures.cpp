@@ -45,8 +45,7 @@ NodePointer Load(const QString &path)
 }
 
 // Measures on a thread of its own, which uses memory that nobody has used before, as the picker's
-// loading does. Besides, Qt's painting leaves the vector registers of its thread in a state that
-// makes some processors slow.
+// loading does.
 template<class Measure>
 Comparison OnFreshThread(Measure measure)
 {
@@ -131,26 +130,28 @@ Comparison MeasureSearch(const QString &path)
             });
 }
 
-using Visitor = std::function<void(const NodePointer &, const PresetPointer &)>;
+using Visitor = std::function<void(const PresetPointer &)>;
 
 void ForEachPreset(const NodePointer &node, const Visitor &visit)
 {
     for (int i = 0; i < node->PresetCount(); ++i)
-        visit(node, node->PresetAt(i));
+        visit(node->PresetAt(i));
     for (int i = 0; i < node->ChildCount(); ++i)
         ForEachPreset(node->ChildAt(i), visit);
 }
 
-// The data source with every preset of a description of so many chosen once.
+// The data source with every preset of a description of so many chosen once, and no other. All are
+// chosen under one format, so that no two choices differ before their names.
 std::shared_ptr<IOLFmtPresetDataSource> WithRecentChoices(int count)
 {
     const auto dataSource = IOLFmtPresetDataSource::Shared();
-    if (int(dataSource->GetRecentItems().size()) < count) {
-        ForEachPreset(Load(DescriptionPath(count)),
-                      [&](const NodePointer &node, const PresetPointer &preset) {
-                          dataSource->AddRecentPreset(preset, node);
-                      });
-    }
+    for (const auto &item : dataSource->GetRecentItems())
+        dataSource->RemoveRecentItem(item);
+    const NodePointer root = Load(DescriptionPath(count));
+    const NodePointer format = root->FirstChild()->FirstChild();
+    ForEachPreset(root, [&](const PresetPointer &preset) {
+        dataSource->AddRecentPreset(preset, format);
+    });
     return dataSource;
 }
 

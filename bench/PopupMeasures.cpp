@@ -55,6 +55,7 @@ Figures FiguresOf(const QByteArray &line)
 // The figures of each round of a scene, run in a process of its own.
 QList<Figures> RunInProcess(const QStringList &scene)
 {
+    NeedApplication();
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(),

@@ -11,7 +11,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QListWidget>
 #include <QTabWidget>
 #include <QTimer>
@@ -72,13 +73,17 @@ bool IsPickerPainted(const EventWatch &watch, const Picker &picker)
 }
 
 // A window as a host has one open before it asks for a popup, so that neither side of a comparison
-// pays for what comes with the first window of a process.
-class HostWindow final : public QLabel
+// pays for what comes with the first window of a process and the first widgets of a kind.
+class HostWindow final : public QTabWidget
 {
 public:
     HostWindow()
-        : QLabel(QStringLiteral("MP4, 1920 x 1080"))
     {
+        auto *list = new QListWidget;
+        list->setStyleSheet(QStringLiteral("QListWidget { border: none; }"));
+        list->addItem(QStringLiteral("MP4, 1920 x 1080"));
+        addTab(list, QStringLiteral("Formats"));
+        new QLineEdit(QStringLiteral("MP4"), this);
         UntilPainted([this] { show(); },
                      [this](const EventWatch &watch) { return watch.WasPainted(this); });
     }

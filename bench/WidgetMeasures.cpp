@@ -33,6 +33,7 @@ std::shared_ptr<IOLFormatPreset> SamplePreset()
 
 Comparison MeasureFilling(int rows)
 {
+    NeedApplication();
     const QString styleSheet = RPFmtNodeWdg(nullptr).FormatList()->styleSheet();
     const auto preset = SamplePreset();
     return Compare(
@@ -104,6 +105,7 @@ Nanoseconds Repaint(QWidget &widget)
 
 Comparison MeasureHoveredRow()
 {
+    NeedApplication();
     LoadArtwork();
     RPFmtItemDataWdg ours(nullptr);
     ours.preset = SamplePreset();

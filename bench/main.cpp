@@ -8,6 +8,8 @@
 
 #include <QApplication>
 
+#include <optional>
+
 namespace Bench {
 
 namespace {
@@ -18,7 +20,15 @@ double Seconds(const Comparison &comparison)
     return comparison.unit.sides == millisecondUnit.sides ? comparison.ours / 1000 : 0;
 }
 
+std::function<void()> makeApplication;
+
 } // namespace
+
+void NeedApplication()
+{
+    if (!QCoreApplication::instance())
+        makeApplication();
+}
 
 void AddMeasure(std::string what, std::string size, std::optional<double> toReach,
                 std::function<Comparison()> measure)
@@ -50,10 +60,11 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     benchmark::Initialize(&argc, argv);
     const Test::IsolatedSettings settings;
-    const QApplication application(argc, argv);
-    const QStringList arguments = QApplication::arguments();
-    if (arguments.value(1) == QLatin1StringView(Bench::sceneArgument)) {
-        Bench::RunScene(arguments.mid(2));
+    std::optional<QApplication> application;
+    Bench::makeApplication = [&] { application.emplace(argc, argv); };
+    if (argc > 1 && QByteArrayView(argv[1]) == Bench::sceneArgument) {
+        Bench::NeedApplication();
+        Bench::RunScene(QApplication::arguments().mid(2));
         return 0;
     }
     Bench::AddModelMeasures();

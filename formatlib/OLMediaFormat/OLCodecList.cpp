@@ -56,7 +56,8 @@ std::vector<OLEncoderChoice> OLCodecList::Choices() const
 
 std::span<const OLEncoderChoice> OLCodecList::FirstChoices() const
 {
-    return { m_choices.get(), static_cast<std::size_t>(m_choiceCount) };
+    const int count = m_choices ? m_choiceCount : 0; // none where the list was moved from
+    return { m_choices.get(), static_cast<std::size_t>(count) };
 }
 
 std::vector<OLEncoderChoice> OLCodecList::ChoicesOfCodecs() const
