@@ -455,9 +455,9 @@ private Q_SLOTS:
         QFETCH(const QByteArray, behind);
         QDir().mkpath(QFileInfo(FilePath()).path());
         Create(FilePath(), before);
-        IOLAppSettings::Shared()->SetValue(std::string(500, 'x'), "a");
-        const QByteArray whole = "[General]\na=" + QByteArray(500, 'x') + '\n' + behind;
-        for (qsizetype size = whole.size() - behind.size() - 2; size < whole.size(); ++size) {
+        IOLAppSettings::Shared()->SetValue(std::string(100, 'x'), "a");
+        const QByteArray whole = "[General]\na=" + QByteArray(100, 'x') + '\n' + behind;
+        for (qsizetype size = 0; size < whole.size(); ++size) {
             const FullDisk fullDisk(static_cast<rlim_t>(size));
             ExpectFailedSave();
             QCOMPARE(Content(FilePath()), before);

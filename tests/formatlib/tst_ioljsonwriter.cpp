@@ -46,6 +46,7 @@ private Q_SLOTS:
         QTest::newRow("smallest integer") << QJsonValue(std::numeric_limits<qint64>::min());
         QTest::newRow("empty text") << QJsonValue(QString());
         QTest::newRow("text") << QJsonValue(QStringLiteral("ä\u2028日本語𐐀 \"quoted\" \\ /"));
+        QTest::newRow("bytes of a mark apart") << QJsonValue(QStringLiteral("\uFF21\uF000\u00BB"));
         QTest::newRow("control characters") << QJsonValue(QStringLiteral("\n\r\t\b\f\u0001\u007F"));
         QTest::newRow("brackets in a text") << QJsonValue(QStringLiteral("],["));
         QTest::newRow("empty array") << QJsonValue(QJsonArray());

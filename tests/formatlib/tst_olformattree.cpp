@@ -239,6 +239,22 @@ private Q_SLOTS:
             QCOMPARE(root->FirstChild()->FirstChild()->PresetCount(), 2);
     }
 
+    void severalThreadsCopyAPresetWhoseEncodersOthersAskFor()
+    {
+        const auto preset = Test::SamplePreset();
+        std::vector<std::thread> threads;
+        for (int i = 0; i < 4; ++i) {
+            threads.emplace_back([preset, i] {
+                const auto copy = preset->Clone();
+                if (preset->VideoCodecAt(i % 3)->Name() != copy->VideoCodecAt(i % 3)->Name())
+                    qFatal("a copy has other encoders");
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(preset->Clone()->CurrentVideoCodecIndex(), preset->CurrentVideoCodecIndex());
+    }
+
     void nothingIsLogged()
     {
         Test::MessageRecorder recorder;

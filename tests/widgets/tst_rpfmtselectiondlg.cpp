@@ -243,9 +243,13 @@ private Q_SLOTS:
             QCOMPARE(picture.pixelColor(0, y), frame);
             QCOMPARE(picture.pixelColor(799, y), frame);
         }
-        QCOMPARE(picture.pixelColor(1, 1), QColor(Qt::white));
-        QCOMPARE(picture.pixelColor(798, 598), QColor(Qt::white));
-        QCOMPARE(picture.pixelColor(5, 300), QColor(Qt::white));
+        const QRect tabs = popup.findChild<QTabWidget *>()->geometry();
+        for (int y = 1; y < 599; ++y) {
+            for (int x = 1; x < 799; ++x) {
+                if (!tabs.contains(x, y))
+                    QCOMPARE(picture.pixelColor(x, y), QColor(Qt::white));
+            }
+        }
     }
 
     void popupIsPlacedBesideTheAnchor()
