@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QListWidget>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>

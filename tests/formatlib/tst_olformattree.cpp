@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <thread>
+#include <utility>
 #include <vector>
 
 using Orlimo::IOLError;
@@ -239,20 +240,26 @@ private Q_SLOTS:
             QCOMPARE(root->FirstChild()->FirstChild()->PresetCount(), 2);
     }
 
-    void severalThreadsCopyAPresetWhoseEncodersOthersAskFor()
+    void aPresetIsCopiedWholeWhileAnotherThreadAsksForItsEncoders()
     {
         const auto preset = Test::SamplePreset();
-        std::vector<std::thread> threads;
-        for (int i = 0; i < 4; ++i) {
-            threads.emplace_back([preset, i] {
-                const auto copy = preset->Clone();
-                if (preset->VideoCodecAt(i % 3)->Name() != copy->VideoCodecAt(i % 3)->Name())
-                    qFatal("a copy has other encoders");
-            });
+        const auto chosen = [](const std::shared_ptr<IOLFormatPreset> &of) {
+            const auto codec = of->CurrentVideoCodec();
+            return std::pair(codec->CurrentResolutionIndex(), codec->CurrentQualityIndex());
+        };
+        const int other = (preset->CurrentVideoCodec()->CurrentQualityIndex() + 1)
+                % preset->CurrentVideoCodec()->QualityCount();
+        preset->CurrentVideoCodec()->SetQualityIndex(other);
+        for (int round = 0; round < 50; ++round) {
+            const auto source = preset->Clone(); // has made none of its encoders yet
+            PresetPointer copy;
+            std::thread copying([&] { copy = source->Clone(); });
+            std::thread asking([&] { chosen(source); });
+            copying.join();
+            asking.join();
+            QCOMPARE(chosen(copy), chosen(preset));
         }
-        for (std::thread &thread : threads)
-            thread.join();
-        QCOMPARE(preset->Clone()->CurrentVideoCodecIndex(), preset->CurrentVideoCodecIndex());
+        QCOMPARE(chosen(preset).second, other);
     }
 
     void nothingIsLogged()
