@@ -15,15 +15,6 @@ namespace {
 
 constexpr QRect searchArea { 617, 0, 160, 24 };
 
-void Fill(QListWidget &list, int rows)
-{
-    list.clear();
-    for (int i = 0; i < rows; ++i)
-        (new QListWidgetItem(&list))->setSizeHint(QSize(0, OLRowHeight));
-    for (int i = 0; i < rows; ++i)
-        list.setItemWidget(list.item(i), new QWidget(&list));
-}
-
 class RecentPage final : public QWidget
 {
 public:
@@ -45,8 +36,8 @@ public:
 
     void Show(PageRows rows)
     {
-        Fill(*m_ui.ListNode, rows.formats);
-        Fill(*m_ui.ListFormat, rows.presets);
+        FillWithBareRows(*m_ui.ListNode, rows.formats);
+        FillWithBareRows(*m_ui.ListFormat, rows.presets);
     }
 
 private:
@@ -54,6 +45,15 @@ private:
 };
 
 } // namespace
+
+void FillWithBareRows(QListWidget &list, int rows)
+{
+    list.clear();
+    for (int i = 0; i < rows; ++i)
+        (new QListWidgetItem(&list))->setSizeHint(QSize(0, OLRowHeight));
+    for (int i = 0; i < rows; ++i)
+        list.setItemWidget(list.item(i), new QWidget(&list));
+}
 
 PageRows RowsOf(const IOLFormatNode &category)
 {

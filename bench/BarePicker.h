@@ -6,6 +6,8 @@
 #include <QList>
 #include <QWidget>
 
+class QListWidget;
+
 namespace Orlimo {
 class IOLFormatNode;
 }
@@ -21,6 +23,9 @@ struct PageRows
 };
 
 PageRows RowsOf(const Orlimo::IOLFormatNode &category);
+
+// Empties the list and makes a plain widget for each row, all items first.
+void FillWithBareRows(QListWidget &list, int rows);
 
 // The picker without anything of its own: the forms and, for every row that the picker shows, a
 // plain widget in its place. It has no data, texts or icons, and its rows paint nothing, so what it

@@ -1,3 +1,4 @@
+#include "BarePicker.h"
 #include "Measures.h"
 #include "Samples.h"
 
@@ -47,12 +48,7 @@ Comparison MeasureFilling(int rows)
             [&] {
                 QListWidget list;
                 list.setStyleSheet(styleSheet);
-                return Elapsed([&] {
-                    for (int i = 0; i < rows; ++i)
-                        (new QListWidgetItem(&list))->setSizeHint(QSize(0, OLRowHeight));
-                    for (int i = 0; i < rows; ++i)
-                        list.setItemWidget(list.item(i), new QWidget(&list));
-                });
+                return Elapsed([&] { FillWithBareRows(list, rows); });
             });
 }
 
