@@ -1,0 +1,18 @@
+# Debian's MinGW-w64 for 64-bit Windows, with the thread model of POSIX, whose std::thread and
+# std::future the picker needs.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+# Where Qt for Windows is; scripts/windows-qt makes it.
+set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORLIMO_WINDOWS_QT)
+
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${ORLIMO_WINDOWS_QT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
