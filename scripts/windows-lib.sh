@@ -4,6 +4,7 @@
 
 windows_qt=${WINDOWS_QT:-${XDG_CACHE_HOME:-$HOME/.cache}/orlimo/windows-qt}
 windows_packages=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)
+wine_packages=(wine64 xvfb xauth)
 qt_host_cmake=/usr/lib/x86_64-linux-gnu/cmake
 whole_mark=.whole # in the folder once everything is there
 

@@ -105,7 +105,7 @@ void tst_OLFmtPresetDataSource_LoadFailures::aDescriptionWithoutPermissionIsLogg
 {
     const Test::WithoutRights withoutRights;
     if (!Test::WithoutRights::PermissionsHold())
-        QSKIP("this machine does not let root become another user");
+        QSKIP("permissions hold for no user that this process can be");
     const Test::FormatFolder folder;
     const std::string path = folder.Write(u"forbidden.json"_s, Test::Description("Formats"));
     QFile file(QString::fromStdString(path));

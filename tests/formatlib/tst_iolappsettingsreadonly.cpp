@@ -103,7 +103,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         if (!Test::WithoutRights::PermissionsHold())
-            QSKIP("this machine does not let root become another user");
+            QSKIP("permissions hold for no user that this process can be");
     }
 
     void aForbiddenSaveLeavesTheFileAndTheNextSaveWrites_data();

@@ -2,12 +2,16 @@
 
 #include <QtGlobal>
 
+#ifdef Q_OS_UNIX
 #include <grp.h>
 #include <unistd.h>
 
 #include <type_traits>
+#endif
 
 namespace Test {
+
+#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -58,5 +62,17 @@ bool WithoutRights::PermissionsHold()
 {
     return geteuid() != root;
 }
+
+#else
+
+WithoutRights::WithoutRights() = default;
+WithoutRights::~WithoutRights() = default;
+
+bool WithoutRights::PermissionsHold()
+{
+    return false;
+}
+
+#endif
 
 } // namespace Test

@@ -15,7 +15,8 @@ public:
     WithoutRights &operator=(const WithoutRights &) = delete;
     ~WithoutRights();
 
-    // Whether they hold now; not for a root that this machine does not let become another user.
+    // Whether they hold now; not for a root that this machine does not let become another user, and
+    // not on Windows, whose lists of rights QFile does not change.
     static bool PermissionsHold();
 
 private:
