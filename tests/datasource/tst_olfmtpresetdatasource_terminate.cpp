@@ -169,7 +169,8 @@ private:
     {
         const std::string path = m_folder.Write(u"formats.json"_s, Test::Description("Formats"));
         m_process.start(QCoreApplication::applicationFilePath(),
-                        { u"--scenario"_s, scenario, QString::fromStdString(path) });
+                        { u"--scenario"_s, scenario, QString::fromStdString(path) },
+                        QIODevice::ReadOnly | QIODevice::Text);
         m_process.waitForFinished(-1);
         return m_process.readAllStandardOutput();
     }

@@ -64,10 +64,11 @@ public:
     if (!FullDisk::isPossible)                                                                     \
     QSKIP("this platform does not let a process limit the size of its files")
 
+// Lines end as the platform's do.
 QByteArray Content(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
 }
 
 void Create(const QString &path, const QByteArray &content)
@@ -309,6 +310,9 @@ private Q_SLOTS:
     // A link to nowhere stands where the file is to be kept: it is not there, and cannot be made.
     void aDamagedFileWhosePlaceIsTakenStaysAsItIs()
     {
+#ifdef Q_OS_WIN
+        QSKIP("QFile makes links of this platform that are files of their own");
+#endif
         QDir().mkpath(QFileInfo(FilePath()).path());
         const QString kept = FilePath() + QStringLiteral(".unreadable");
         Create(FilePath(), "noise\n");
@@ -387,10 +391,7 @@ private Q_SLOTS:
         QDir().mkpath(QFileInfo(FilePath()).path());
         Create(FilePath(), "[unreadable]\nkey=of a later version\n");
         for (const char *list : { "a, b", "c, d", "a, b" }) {
-            QFile file(FilePath());
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QByteArray content = file.readAll();
-            file.close();
+            QByteArray content = Content(FilePath());
             content.replace("key=ours\n", "");
             Create(FilePath(), QByteArray("[General]\nkey=") + list + '\n' + content);
             IOLAppSettings::Shared()->SetValue("ours", "key");

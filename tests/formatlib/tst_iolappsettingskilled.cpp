@@ -26,8 +26,12 @@ using namespace Qt::StringLiterals;
 constexpr int savesToSurvive = 500;
 constexpr std::size_t valueLength = 100'000;
 
-void SetNames()
+constexpr char folderVariable[] = "ORLIMO_SETTINGS_FOLDER";
+
+void SetPlace()
 {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       qEnvironmentVariable(folderVariable));
     QCoreApplication::setOrganizationName(u"Host"_s);
     QCoreApplication::setApplicationName(u"Player"_s);
 }
@@ -52,7 +56,7 @@ int NumberOf(const std::string &value)
 // leaves one of nobody, which keeps others from saving until it is half a minute old.
 int SaveForEver(const char *key, int first, int last)
 {
-    SetNames();
+    SetPlace();
     Test::MessageRecorder recorder;
     for (int number = first; number <= last; ++number) {
         std::printf("begin %d\n", number);
@@ -147,7 +151,7 @@ private:
     std::unique_ptr<QProcess> start(const char *key, int first, int last) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_CONFIG_HOME"_s, m_folder->path());
+        environment.insert(QString::fromLatin1(folderVariable), m_folder->path());
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(environment);

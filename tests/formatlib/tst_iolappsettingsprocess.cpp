@@ -69,10 +69,27 @@ int SaveAfterTheApplication(int &argc, char **argv)
     return SaveValue();
 }
 
+int SaveInTheUsualFolder(int &, char **)
+{
+    SetNames("Orlimo Test", "Player");
+    return SaveValue();
+}
+
 int ReadValue(int &, char **)
 {
     SetNames("Host", "Player");
     return IOLAppSettings::Shared()->Value("key") == value ? 0 : 1;
+}
+
+constexpr QLatin1StringView usualFolder("usual folder");
+
+// Windows has no variable of the environment for the folder.
+void UseFolderOfTest()
+{
+#ifdef Q_OS_WIN
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       qEnvironmentVariable("XDG_CONFIG_HOME"));
+#endif
 }
 
 // What a process does that this executable starts with the name as its first argument.
@@ -89,6 +106,7 @@ constexpr Role roles[] = {
     { QLatin1StringView("unnamed application"), &SaveInAnUnnamedApplication },
     { QLatin1StringView("names changed"), &SaveAfterTheNamesChanged },
     { QLatin1StringView("application gone"), &SaveAfterTheApplication },
+    { usualFolder, &SaveInTheUsualFolder },
     { QLatin1StringView("read"), &ReadValue },
 };
 
@@ -121,6 +139,21 @@ private Q_SLOTS:
         QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QString::fromUtf8(value));
     }
 
+    void theFileIsWhereProgramsOfThePlatformKeepTheirSettings()
+    {
+#ifdef Q_OS_WIN
+        const QDir roaming(qEnvironmentVariable("APPDATA"));
+        QVERIFY(roaming.exists());
+        const QString file = roaming.filePath(QStringLiteral("Orlimo Test/Player.ini"));
+        QFile::remove(file);
+        Start(QString(usualFolder));
+        QVERIFY(QFileInfo::exists(file));
+        QVERIFY(QDir(roaming.filePath(QStringLiteral("Orlimo Test"))).removeRecursively());
+#else
+        QSKIP("the other tests look there, in a folder that stands for the user's");
+#endif
+    }
+
     void anotherProcessReadsWhatWasSaved()
     {
         Start(QStringLiteral("application"));
@@ -129,7 +162,10 @@ private Q_SLOTS:
 
 private:
     // Every test has a folder of its own.
-    void prepare() override { m_folder.emplace(); }
+    void prepare() override
+    {
+        m_folder.emplace();
+    }
 
     void Start(const QString &role)
     {
@@ -162,8 +198,11 @@ private:
 int main(int argc, char **argv)
 {
     for (const Role &role : roles) {
-        if (argc > 1 && role.name == QLatin1StringView(argv[1]))
-            return role.play(argc, argv);
+        if (argc < 2 || role.name != QLatin1StringView(argv[1]))
+            continue;
+        if (role.name != usualFolder)
+            UseFolderOfTest();
+        return role.play(argc, argv);
     }
     return Test::Run<tst_IOLAppSettingsProcess>(argc, argv);
 }

@@ -80,6 +80,9 @@ private Q_SLOTS:
 
     void whatCannotBeFormattedWritesNothing()
     {
+#ifdef Q_CC_MINGW
+        QSKIP("MinGW's printf leaves out a character that it cannot convert");
+#endif
         const wchar_t halfAPair[] = { static_cast<wchar_t>(0xD800), L'\0' };
         Test::MessageRecorder recorder;
         const int length = IOLLogConfig::Printf("%ls", halfAPair);
