@@ -69,7 +69,8 @@ public:
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
-        process.start(QStringLiteral(ORLIMO_FORMAT_TOOL), arguments);
+        process.start(QStringLiteral(ORLIMO_FORMAT_TOOL), arguments,
+                      QIODevice::ReadOnly | QIODevice::Text);
         if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
             qFatal("the tool did not end: %s", qPrintable(process.errorString()));
         return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),

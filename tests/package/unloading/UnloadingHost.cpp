@@ -3,6 +3,8 @@
 //
 // unloadinghost PLUGIN DESCRIPTION load|unjoined|popup|catalogue
 
+#include "LoadedLibrary.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QTranslator>
@@ -14,8 +16,6 @@
 #include <exception>
 #include <memory>
 
-#include <dlfcn.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,12 +24,6 @@ void Say(const char *line)
 {
     std::puts(line);
     std::fflush(stdout);
-}
-
-bool IsMapped()
-{
-    QFile maps(u"/proc/self/maps"_s);
-    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("/libOLMediaFormatPopup.so");
 }
 
 const char *Resources()
@@ -43,7 +37,8 @@ const char *Resources()
 
 void SayState(const char *step)
 {
-    std::printf("%s: %s, %s\n", step, IsMapped() ? "mapped" : "not mapped", Resources());
+    const bool isMapped = LoadedLibrary::IsMapped(ORLIMO_LIBRARY_NAME);
+    std::printf("%s: %s, %s\n", step, isMapped ? "mapped" : "not mapped", Resources());
     std::fflush(stdout);
 }
 
@@ -61,9 +56,9 @@ void TellHowItEnds()
 }
 
 template<class Function>
-Function *Resolve(void *plugin, const char *name)
+Function *Resolve(const LoadedLibrary &plugin, const char *name)
 {
-    void *const function = dlsym(plugin, name);
+    void *const function = plugin.Resolve(name);
     if (!function) {
         Say(name);
         std::_Exit(4);
@@ -71,14 +66,14 @@ Function *Resolve(void *plugin, const char *name)
     return reinterpret_cast<Function *>(function);
 }
 
-void Load(void *plugin, const char *description)
+void Load(const LoadedLibrary &plugin, const char *description)
 {
     Resolve<void(const char *)>(plugin, "StartLoading")(description);
     Resolve<void()>(plugin, "WaitForLoading")();
     std::printf("categories: %d\n", Resolve<int()>(plugin, "CategoryCount")());
 }
 
-void ShowPopup(void *plugin)
+void ShowPopup(const LoadedLibrary &plugin)
 {
     Resolve<void()>(plugin, "ShowPopup")();
     QCoreApplication::processEvents();
@@ -101,9 +96,9 @@ void Translate()
 int Play(const char *pluginFile, const char *description, const QString &scenario)
 {
     SayState("before");
-    void *const plugin = dlopen(pluginFile, RTLD_NOW | RTLD_LOCAL);
-    if (!plugin) {
-        Say(dlerror());
+    LoadedLibrary plugin(pluginFile);
+    if (!plugin.Error().isEmpty()) {
+        Say(plugin.Error().constData());
         return 2;
     }
     SayState("loaded");
@@ -115,7 +110,9 @@ int Play(const char *pluginFile, const char *description, const QString &scenari
         ShowPopup(plugin);
     if (scenario == "catalogue"_L1)
         Translate();
-    dlclose(plugin);
+    plugin.Unload();
+    if (!plugin.Error().isEmpty())
+        Say(plugin.Error().constData());
     SayState("unloaded");
     if (scenario == "catalogue"_L1)
         Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));

@@ -29,7 +29,8 @@ void tst_Unloading::Run(const QString &scenario)
     host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     host.start(QStringLiteral(ORLIMO_UNLOADING_HOST),
                { QStringLiteral(ORLIMO_UNLOADING_PLUGIN), QStringLiteral(ORLIMO_DESCRIPTION_FILE),
-                 scenario });
+                 scenario },
+               QIODevice::ReadOnly | QIODevice::Text);
     QVERIFY2(host.waitForFinished(), qPrintable(host.errorString()));
     m_output = QString::fromUtf8(host.readAllStandardOutput());
     m_exitStatus = host.exitStatus();
