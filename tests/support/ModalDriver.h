@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QPointer>
 #include <QTest>
@@ -18,7 +19,12 @@ public:
     explicit WhenOpen(Action action)
     {
         QMetaObject::invokeMethod(
-                this, [this, action] { Run(action); }, Qt::QueuedConnection);
+                this,
+                [this, action] {
+                    Run(action);
+                    WakeLoopOfWindow();
+                },
+                Qt::QueuedConnection);
     }
 
     ~WhenOpen() override
@@ -41,6 +47,10 @@ private:
         QTest::qFail("the modal window has been left open", __FILE__, __LINE__);
         window->close();
     }
+
+    // On Windows, events that are processed behind the end of the window's loop make it forget that
+    // it was to end, and it waits for another event.
+    static void WakeLoopOfWindow() { QAbstractEventDispatcher::instance()->wakeUp(); }
 
     static Window *ActiveModal()
     {
