@@ -243,10 +243,14 @@ class tst_IOLMediaFormatPopup_Loading : public Test::TestCase
     static QString tabsAfter(const QString &scenario, int delay = 0)
     {
         const Test::SampleDescription description;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s); // Windows logs to the debugger
         QProcess child;
+        child.setProcessEnvironment(environment);
         child.start(QCoreApplication::applicationFilePath(),
                     { u"--scenario"_s, scenario, QString::fromStdString(description.Path()),
-                      QString::number(delay) });
+                      QString::number(delay) },
+                    QIODevice::ReadOnly | QIODevice::Text);
         if (!child.waitForFinished() || child.exitStatus() != QProcess::NormalExit)
             return u"the child failed: "_s + QString::fromUtf8(child.readAllStandardError());
         return QString::fromUtf8(child.readAllStandardOutput() + child.readAllStandardError());
