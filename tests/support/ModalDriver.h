@@ -50,7 +50,7 @@ private:
 
     // On Windows, events that are processed behind the end of the window's loop make it forget that
     // it was to end, and it waits for another event.
-    static void WakeLoopOfWindow() { QAbstractEventDispatcher::instance()->wakeUp(); }
+    static void WakeLoopOfWindow() { QAbstractEventDispatcher::instance()->interrupt(); }
 
     static Window *ActiveModal()
     {

@@ -17,7 +17,7 @@ except ImportError:
     print(f"{sys.executable} lacks the package jsonschema 4 or later (python3-jsonschema)")
     sys.exit(77)
 
-SCHEMA, DESCRIPTION, WRITETREES = sys.argv[1:4]
+SCHEMA, DESCRIPTION, *WRITETREES = sys.argv[1:]
 
 NAMES = {"description", "edited", "nothing chosen", "empty", "built-in", "recent", "custom"}
 
@@ -31,7 +31,7 @@ def written_trees():
     """Returns the trees by name. The program keeps its settings in a folder that goes with it."""
     with tempfile.TemporaryDirectory() as folder:
         output = subprocess.run(
-            [WRITETREES, DESCRIPTION],
+            [*WRITETREES, DESCRIPTION],
             check=True,
             stdout=subprocess.PIPE,
             timeout=60,
