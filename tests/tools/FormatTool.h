@@ -52,6 +52,16 @@ inline QList<ArtworkImage> CompleteImages()
 class ToolFolder
 {
 public:
+    ToolFolder() = default;
+    ToolFolder(const ToolFolder &) = delete;
+    ToolFolder &operator=(const ToolFolder &) = delete;
+    // Windows may still hold the folder of a process that has just ended.
+    ~ToolFolder()
+    {
+        if (!QTest::qWaitFor([this] { return QDir(m_folder.path()).removeRecursively(); }))
+            qWarning("%s stays", qPrintable(m_folder.path()));
+    }
+
     QString Path(const QString &name) const { return m_folder.filePath(name); }
 
     void Write(const QString &name, const QByteArray &bytes) const
