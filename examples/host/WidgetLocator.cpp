@@ -1,6 +1,7 @@
 #include "WidgetLocator.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -11,7 +12,9 @@
 #include <QWidget>
 
 #include <cstdio>
+#include <mutex>
 #include <optional>
+#include <thread>
 
 namespace Host {
 
@@ -19,7 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As QFile and QSocketNotifier know it.
 constexpr int standardInput = 0;
 
 struct Place
@@ -269,29 +271,60 @@ QString Answer(const QString &question, const QString &path)
     return AnswerOnPlace(question, Find(path.split(u'/')));
 }
 
-} // namespace
-
-// Without a buffer of its own, nothing is left in the file when the notifier reports the next line.
-WidgetLocator::WidgetLocator()
-    : m_notifier(standardInput, QSocketNotifier::Read)
+void AnswerLine(const QByteArray &line)
 {
-    const bool open = m_input.open(standardInput, QIODevice::ReadOnly | QIODevice::Unbuffered);
-    m_notifier.setEnabled(open);
-    connect(&m_notifier, &QSocketNotifier::activated, this, &WidgetLocator::AnswerLine);
-}
-
-void WidgetLocator::AnswerLine()
-{
-    const QByteArray line = m_input.readLine();
-    if (line.isEmpty()) {
-        m_notifier.setEnabled(false);
-        return;
-    }
     const QString request = QString::fromUtf8(line).trimmed();
     const QString question = request.section(u' ', 0, 0);
     const QString path = request.section(u' ', 1);
     std::printf("= %s\n", qUtf8Printable(Answer(question, path)));
     std::fflush(stdout);
+}
+
+} // namespace
+
+// Hands lines from the thread that reads them over to the locator, for as long as there is one.
+class WidgetLocator::Receiver
+{
+public:
+    explicit Receiver(QObject *locator)
+        : m_locator(locator)
+    {
+    }
+
+    void Close()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_locator = nullptr;
+    }
+
+    void Post(const QByteArray &line)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_locator)
+            QMetaObject::invokeMethod(m_locator, [line] { AnswerLine(line); });
+    }
+
+private:
+    std::mutex m_mutex;
+    QObject *m_locator;
+};
+
+// Nothing ends the wait for a line but the driver, so the thread is left behind with what it needs.
+WidgetLocator::WidgetLocator()
+    : m_receiver(std::make_shared<Receiver>(this))
+{
+    std::thread([receiver = m_receiver] {
+        QFile input;
+        if (!input.open(standardInput, QIODevice::ReadOnly | QIODevice::Unbuffered))
+            return;
+        for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine())
+            receiver->Post(line);
+    }).detach();
+}
+
+WidgetLocator::~WidgetLocator()
+{
+    m_receiver->Close();
 }
 
 } // namespace Host

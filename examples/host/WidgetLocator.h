@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QFile>
 #include <QObject>
-#include <QSocketNotifier>
+
+#include <memory>
 
 namespace Host {
 
@@ -28,20 +28,18 @@ namespace Host {
 //   WINDOW/row/LIST/N     the whole row N, from 0 on
 //   WINDOW/action/LIST/N  the box of that row's action icon
 //   WINDOW/cell/TABLE/N/M the cell in row N and column M
-//
-// Standard input can be watched in this way on Unix only.
 class WidgetLocator final : public QObject
 {
     Q_OBJECT
 
 public:
     WidgetLocator();
+    ~WidgetLocator() override;
 
 private:
-    void AnswerLine();
+    class Receiver;
 
-    QFile m_input;
-    QSocketNotifier m_notifier;
+    std::shared_ptr<Receiver> m_receiver;
 };
 
 } // namespace Host

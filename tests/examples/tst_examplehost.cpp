@@ -71,6 +71,10 @@ private Q_SLOTS:
     {
         QFETCH(const QStringList, options);
         QFETCH(const QString, system);
+#ifdef Q_OS_WIN
+        if (options.isEmpty())
+            QSKIP("Windows has the language in the user's account, not in the environment");
+#endif
         RunningHost host(options, system);
         QTEST(host.TextOf(u"host/btnEdit"_s), "text");
     }
