@@ -8,9 +8,9 @@
 namespace Test {
 
 // Drives a window that opens modally, and so keeps the test waiting: made before the call that
-// opens the window, it runs action(window) as soon as a modal window of the class is active. The
-// test fails where none has opened by the end of the scope and where action leaves the window open,
-// which is then closed.
+// opens the window, it runs action(window) as soon as a modal window of the class is active, or
+// after a while with one that is open and has no way to become active. The test fails where none
+// has opened by the end of the scope and where action leaves the window open, which is then closed.
 template<class Window>
 class WhenOpen : public QObject
 {
@@ -37,10 +37,12 @@ private:
     template<class Action>
     void Run(const Action &action)
     {
-        m_hasRun = QTest::qWaitFor([] { return ActiveModal() != nullptr; });
-        const QPointer<Window> window = ActiveModal();
+        const auto isActive = [] { return OpenModal() && OpenModal()->isActiveWindow(); };
+        (void)QTest::qWaitFor(isActive);
+        const QPointer<Window> window = OpenModal();
         if (!window)
             return;
+        m_hasRun = true;
         action(*window);
         if (!window || !window->isVisible())
             return;
@@ -52,11 +54,7 @@ private:
     // it was to end, and it waits for another event.
     static void WakeLoopOfWindow() { QAbstractEventDispatcher::instance()->interrupt(); }
 
-    static Window *ActiveModal()
-    {
-        auto *window = qobject_cast<Window *>(QApplication::activeModalWidget());
-        return window && window->isActiveWindow() ? window : nullptr;
-    }
+    static Window *OpenModal() { return qobject_cast<Window *>(QApplication::activeModalWidget()); }
 
     bool m_hasRun = false;
 };

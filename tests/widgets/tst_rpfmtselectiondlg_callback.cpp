@@ -150,6 +150,11 @@ private Q_SLOTS:
     {
         QFETCH(const Closing, close);
         QFETCH(const QString, report);
+#ifdef Q_OS_WIN
+        if (QGuiApplication::platformName() == "offscreen"_L1
+            && QByteArray(QTest::currentDataTag()).endsWith("edit"))
+            QSKIP("There, the offscreen platform tells too late that the dialog is active");
+#endif
         Scene scene;
         Reports first;
         Reports second;
@@ -208,7 +213,10 @@ private Q_SLOTS:
         QCOMPARE(first, Reports());
     }
 
-    void callbackIsKeptUntilThePopupOpensForAnother_data() { addClosings(); }
+    void callbackIsKeptUntilThePopupOpensForAnother_data()
+    {
+        addClosings();
+    }
 
     void callbackIsKeptUntilThePopupOpensForAnother()
     {
