@@ -22,10 +22,10 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTabBar>
-#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace Orlimo {
@@ -33,12 +33,21 @@ namespace Orlimo {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 constexpr QSize popupSize { 800, 600 };
 constexpr QSize searchSize { 160, 24 };
 constexpr QSize recentIconSize { 15, 15 };
 constexpr int recentTab = 0;
 constexpr int mostCorrections = 3;
+
+// Windows tells which windows had the focus behind all that is posted meanwhile.
+#ifdef Q_OS_WIN
+constexpr bool toldOfFocusLate = true;
+#else
+constexpr bool toldOfFocusLate = false;
+#endif
+constexpr auto settlingTime = 1ms; // by then it is told
 
 QString Text(const char *source)
 {
@@ -65,6 +74,9 @@ RPFmtSelectionDlg::RPFmtSelectionDlg()
     InitEditingDlg();
     connect(ui.tabWidget, &QTabWidget::currentChanged, this, &RPFmtSelectionDlg::OnTabChanged);
     SelectFirstTab();
+    settling.setSingleShot(true);
+    settling.setInterval(settlingTime);
+    connect(&settling, &QTimer::timeout, this, &RPFmtSelectionDlg::CloseIfLeft);
 }
 
 RPFmtSelectionDlg::~RPFmtSelectionDlg() = default;
@@ -203,12 +215,21 @@ void RPFmtSelectionDlg::PostRequestedShow()
 }
 
 // A popup that is shown again at once may never have lost the focus as far as the window system
-// knows, which then has no reason to activate it.
+// knows, which then has no reason to activate it. Or it tells only behind this that another window
+// had the focus meanwhile, and then that the popup has it.
 void RPFmtSelectionDlg::Activate()
 {
     activateWindow();
     if (QGuiApplication::focusWindow() == windowHandle())
         QApplication::setActiveWindow(this);
+    if (settling.isActive())
+        settling.start();
+}
+
+void RPFmtSelectionDlg::CloseIfLeft()
+{
+    if (!isActiveWindow())
+        CloseWithoutChoice();
 }
 
 // The icons keep their own size here; only the constructor reduces that of the Recent tab.
@@ -352,6 +373,8 @@ void RPFmtSelectionDlg::HideQuietly()
     const auto post = qScopeGuard([this] { PostRequestedShow(); });
     const QScopedValueRollback quiet(changingVisibility, true);
     hide();
+    if (toldOfFocusLate)
+        settling.start();
 }
 
 void RPFmtSelectionDlg::CloseWithoutChoice()
@@ -365,7 +388,7 @@ void RPFmtSelectionDlg::focusOutEvent(QFocusEvent *event)
 {
     const bool clickInside = event->reason() == Qt::MouseFocusReason
             && rect().contains(mapFromGlobal(QCursor::pos()));
-    if (!clickInside)
+    if (!clickInside && !settling.isActive())
         CloseWithoutChoice();
 }
 

@@ -3,6 +3,7 @@
 #include "ui_RPFmtSelectionDlg.h"
 
 #include <QIcon>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -71,6 +72,7 @@ private:
     void SelectFirstTab();
     void RenewListIcons();
     void Activate();
+    void CloseIfLeft();
     void StayInPlace();
     void PlaceSearchEdit();
     RPFmtRecentListWdg *RecentPage() const;
@@ -92,10 +94,11 @@ private:
     Callback selectCallback;
     QLineEdit *searchEdit = nullptr;
     std::function<void()> requestedShow; // asked for while showing or hiding, if it was
-    QPoint place;                        // where the popup was last opened
-    int corrections = 0;                 // how often it was put back there
-    int openings = 0;                    // how often the popup was shown
-    bool selecting = false;              // a choice is being reported or a preset edited
+    QTimer settling;                 // focus changes may come from an earlier hiding of the popup
+    QPoint place;                    // where the popup was last opened
+    int corrections = 0;             // how often it was put back there
+    int openings = 0;                // how often the popup was shown
+    bool selecting = false;          // a choice is being reported or a preset edited
     bool changingVisibility = false; // focus changes come from showing or hiding the popup itself
     bool switchingPage = false;      // focus changes come from the change to another tab
 };

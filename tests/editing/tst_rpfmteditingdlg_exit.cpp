@@ -1,3 +1,4 @@
+#include "Activity.h"
 #include "TestCase.h"
 
 #include "EditingDriver.h"
@@ -25,7 +26,7 @@ void OnceIn(Action action)
         const auto window = [] {
             return qobject_cast<Window *>(QApplication::activeModalWidget());
         };
-        if (!QTest::qWaitFor([&] { return window() && window()->isActiveWindow(); }))
+        if (!QTest::qWaitFor([&] { return window() && Test::IsActive(*window()); }))
             qFatal("no modal window of the class has opened");
         action(*window());
     };

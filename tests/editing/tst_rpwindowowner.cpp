@@ -1,3 +1,4 @@
+#include "Activity.h"
 #include "TestCase.h"
 
 #include "RPWindowOwner.h"
@@ -16,7 +17,7 @@ class tst_RPWindowOwner : public Test::TestCase
     {
         window.show();
         window.activateWindow();
-        QTRY_VERIFY(window.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(window));
     }
 
     static const QWindow *ownerOf(const QWidget &window)

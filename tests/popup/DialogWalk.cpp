@@ -1,5 +1,6 @@
 #include "DialogWalk.h"
 
+#include "Activity.h"
 #include "ModalDriver.h"
 
 #include "IOLCodecPreset.h"
@@ -55,7 +56,7 @@ void DialogWalk::CheckEdited(const IOLFormatPreset &preset) const
 void DialogWalk::WorkIfOpen()
 {
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isActiveWindow())
+    if (!dialog || !Test::IsActive(*dialog))
         return;
     m_timer.stop();
     m_hasOpened = true;
@@ -69,7 +70,7 @@ void DialogWalk::Work(QDialog &dialog)
     for (int steps = m_random.Below(6); steps > 0; --steps) {
         Step(dialog);
         dialog.activateWindow();
-        m_scene.Verify(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }),
+        m_scene.Verify(QTest::qWaitFor([&] { return Test::IsActive(dialog); }),
                        u"the dialog is not active"_s);
     }
     m_scene.LetCallbacksReopen(true);
@@ -148,7 +149,7 @@ void DialogWalk::OpenPopup(QDialog &dialog)
     ++m_openings;
     m_scene.Open();
     QWidget *popup = PopupDriver::FindPopup();
-    m_scene.Verify(QTest::qWaitFor([popup] { return popup->isActiveWindow(); }),
+    m_scene.Verify(QTest::qWaitFor([popup] { return Test::IsActive(*popup); }),
                    u"the popup over the dialog is not active"_s);
     dialog.activateWindow();
     m_scene.Verify(QTest::qWaitFor([popup] { return !popup->isVisible(); }),

@@ -1,5 +1,6 @@
 #include "PopupScene.h"
 
+#include "Activity.h"
 #include "PickerData.h"
 
 #include "IOLFmtPresetDataSource.h"
@@ -106,7 +107,7 @@ void PopupScene::ActivateHost(int window)
 {
     QWidget &host = m_hosts[static_cast<std::size_t>(window)];
     host.activateWindow();
-    Verify(QTest::qWaitFor([&] { return host.isActiveWindow() || IsOpen(); }),
+    Verify(QTest::qWaitFor([&] { return Test::IsActive(host) || IsOpen(); }),
            u"the host's window has not become active"_s);
 }
 
@@ -177,7 +178,7 @@ void PopupScene::CheckWindows()
                u"%1 is visible"_s.arg(window->objectName()));
     }
     if (IsOpen())
-        Verify(QTest::qWaitFor([popup] { return popup->isActiveWindow(); }),
+        Verify(QTest::qWaitFor([popup] { return Test::IsActive(*popup); }),
                u"the open popup is not active"_s);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Activity.h"
+
 #include <QAbstractEventDispatcher>
-#include <QApplication>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
 
 namespace Test {
 
@@ -12,33 +14,43 @@ namespace Test {
 // after a while with one that is open and has no way to become active. The test fails where none
 // has opened by the end of the scope and where action leaves the window open, which is then closed.
 template<class Window>
-class WhenOpen : public QObject
+class WhenOpen
 {
 public:
     template<class Action>
     explicit WhenOpen(Action action)
     {
-        QMetaObject::invokeMethod(
-                this,
-                [this, action] {
-                    Run(action);
-                    WakeLoopOfWindow();
-                },
-                Qt::QueuedConnection);
+        m_timer.callOnTimeout([this, action] { RunOnceOpen(action); });
+        const auto begin = [this, action] {
+            m_timer.start(0);
+            RunOnceOpen(action);
+        };
+        QMetaObject::invokeMethod(&m_timer, begin, Qt::QueuedConnection);
     }
 
-    ~WhenOpen() override
+    ~WhenOpen()
     {
         if (!m_hasRun)
             QTest::qFail("no modal window of the class has opened", __FILE__, __LINE__);
     }
 
 private:
+    // On Windows this may come before the window opens, from the depths of what opens it.
+    template<class Action>
+    void RunOnceOpen(const Action &action)
+    {
+        if (!OpenModal())
+            return;
+        m_timer.stop();
+        (void)QTest::qWaitFor([] { return OpenModal() && IsActive(*OpenModal()); },
+                              timeToBecomeActive);
+        Run(action);
+        WakeLoopOfWindow();
+    }
+
     template<class Action>
     void Run(const Action &action)
     {
-        const auto isActive = [] { return OpenModal() && OpenModal()->isActiveWindow(); };
-        (void)QTest::qWaitFor(isActive);
         const QPointer<Window> window = OpenModal();
         if (!window)
             return;
@@ -56,6 +68,8 @@ private:
 
     static Window *OpenModal() { return qobject_cast<Window *>(QApplication::activeModalWidget()); }
 
+    static constexpr int timeToBecomeActive = 500; // in milliseconds
+    QTimer m_timer;
     bool m_hasRun = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Activity.h"
 #include "PopupDriver.h"
 
 #include "RPFmtSelectionDlg.h"
@@ -26,13 +27,13 @@ public:
     {
         activateHost();
         popup.ShowPopup(counter(), anchor);
-        QTRY_VERIFY(popup.isActiveWindow());
+        QTRY_VERIFY(IsActive(popup));
     }
 
     void activateHost()
     {
         host.activateWindow();
-        QTRY_VERIFY(host.isActiveWindow());
+        QTRY_VERIFY(IsActive(host));
     }
 
     Orlimo::RPFmtSelectionDlg::Callback counter()

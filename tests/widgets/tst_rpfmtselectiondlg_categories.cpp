@@ -1,3 +1,4 @@
+#include "Activity.h"
 #include "MapTranslator.h"
 #include "PopupDriver.h"
 #include "RowClicks.h"
@@ -51,7 +52,7 @@ public:
     void open()
     {
         host.activateWindow();
-        QTRY_VERIFY(host.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(host));
         popup.ShowPopup(
                 [this](const std::shared_ptr<const IOLFormatPreset> &preset,
                        const std::shared_ptr<const IOLFormatNode> &node) {
@@ -60,7 +61,7 @@ public:
                                      node ? QString::fromStdString(node->Name()) : QString() });
                 },
                 anchor);
-        QTRY_VERIFY(popup.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(popup));
     }
 
     QWidget host;

@@ -74,7 +74,7 @@ private Q_SLOTS:
     void openPopupHasTheFocus()
     {
         const Scene scene;
-        QVERIFY(scene.popup.isActiveWindow());
+        QVERIFY(Test::IsActive(scene.popup));
         QCOMPARE(QApplication::focusWidget(), &scene.popup);
     }
 
@@ -320,7 +320,7 @@ private Q_SLOTS:
         scene.driver.ClickRow("ListFormat", 0);
         QCOMPARE(reopened, 1);
         QVERIFY(scene.popup.isVisible());
-        QTRY_VERIFY(scene.popup.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(scene.popup));
         scene.host.activateWindow();
         QTRY_VERIFY(!scene.popup.isVisible());
         QCOMPARE(reopened, 1);
@@ -339,7 +339,7 @@ private Q_SLOTS:
                 anchor);
         scene.driver.ClickRow("ListFormat", 0);
         QCOMPARE(reopened, 1);
-        QTRY_VERIFY(scene.popup.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(scene.popup));
         QCOMPARE(QApplication::focusWidget(), &scene.popup);
         scene.host.activateWindow();
         QTRY_VERIFY(!scene.popup.isVisible());
@@ -388,7 +388,7 @@ private Q_SLOTS:
                     ++reopened;
                     scene.activateHost();
                     scene.popup.ShowPopup(scene.counter(), anchor);
-                    QTRY_VERIFY(scene.popup.isActiveWindow());
+                    QTRY_VERIFY(Test::IsActive(scene.popup));
                     QDialog dialog;
                     QTimer::singleShot(0, &dialog, [&] {
                         QTRY_VERIFY(!scene.popup.isVisible());
@@ -409,9 +409,9 @@ private Q_SLOTS:
         QTRY_COMPARE(scene.closings, 1);
         QDialog dialog(&scene.host);
         QTimer::singleShot(0, &dialog, [&] {
-            QTRY_VERIFY(dialog.isActiveWindow());
+            QTRY_VERIFY(Test::IsActive(dialog));
             scene.popup.ShowPopup(scene.counter(), anchor);
-            QTRY_VERIFY(scene.popup.isActiveWindow());
+            QTRY_VERIFY(Test::IsActive(scene.popup));
             QCOMPARE(scene.popup.windowHandle()->transientParent(), dialog.windowHandle());
             QListWidget *list = scene.driver.List("ListFormat");
             const QPoint row = list->visualItemRect(list->item(0)).center();
@@ -430,7 +430,7 @@ private Q_SLOTS:
         scene.activateHost();
         scene.host.hide();
         scene.popup.ShowPopup(scene.counter(), anchor);
-        QTRY_VERIFY(scene.popup.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(scene.popup));
         bool quit = false;
         connect(qApp, &QGuiApplication::lastWindowClosed, &scene.popup, [&] { quit = true; });
         scene.driver.ClickRow("ListFormat", 0);

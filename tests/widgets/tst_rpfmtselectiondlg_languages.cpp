@@ -1,3 +1,4 @@
+#include "Activity.h"
 #include "Languages.h"
 #include "PopupDriver.h"
 #include "RowClicks.h"
@@ -114,7 +115,7 @@ private:
         host.show();
         RPFmtSelectionDlg popup;
         popup.ShowPopup({}, { 20, 20, 100, 30 });
-        QTRY_VERIFY(popup.isActiveWindow());
+        QTRY_VERIFY(Test::IsActive(popup));
         look(PopupDriver(&popup));
     }
 
