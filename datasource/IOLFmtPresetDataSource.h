@@ -35,15 +35,19 @@ public:
     /// unloaded, or when the process ends.
     static std::shared_ptr<IOLFmtPresetDataSource> Shared();
 
-    /// Starts loading the format description at @p path (UTF-8; docs/format-tree.md gives its
-    /// layout) and opens the artwork file beside it, of the same name with the extension icfg.
+    /// Starts loading the format description at @p path (docs/format-tree.md gives its layout) and
+    /// opens the artwork file beside it, of the same name with the extension icfg.
+    ///
+    /// The path is UTF-8 on every platform, with slashes or, on Windows, backslashes too. A
+    /// relative one starts at the working folder of the process, which must stay the same until the
+    /// load is over.
     ///
     /// The artwork is there when the call returns; it replaces any earlier one. The description is
     /// parsed in the background; when that is over, whether it went well or not, @p onLoaded, which
     /// must not be empty, is called on the loading thread; it must not throw, and what it captures
     /// is destroyed there. A description that cannot be read logs "Failed load external format"
-    /// with its path and gives no tree; one that is JSON but breaks the layout gives none and logs
-    /// nothing.
+    /// with its path as it was given and gives no tree; one that is JSON but breaks the layout
+    /// gives none and logs nothing.
     ///
     /// Every call must be followed by WaitForLoadingComplete() before the next call and before the
     /// library is unloaded; otherwise the process is terminated. Throws std::system_error if the
@@ -86,7 +90,7 @@ public:
     /// list.
     virtual bool RemoveRecentItem(std::shared_ptr<IOLFmtPresetRecentItem> item) = 0;
 
-    /// Removes the first recent choice whose display name is @p name, byte by byte, as
+    /// Removes the first recent choice whose display name is @p name (UTF-8), byte by byte, as
     /// RemoveRecentItem() does; returns whether there was one.
     virtual bool RemoveRecentItemByName(const std::string &name) = 0;
 

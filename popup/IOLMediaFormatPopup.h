@@ -50,10 +50,14 @@ public:
     /// is unloaded.
     static std::shared_ptr<IOLMediaFormatPopup> Shared();
 
-    /// Starts loading the engine's format description at @p path (UTF-8) in the background and
-    /// returns at once. The categories appear in the popup when they are there, open or not. A
+    /// Starts loading the engine's format description at @p path in the background and returns at
+    /// once. The categories appear in the popup when they are there, open or not. A
     /// description that cannot be read is logged and gives no categories; a later call may then
     /// load another one. Once the popup has categories, a later call renews the icons only.
+    ///
+    /// The path is UTF-8 on every platform, with slashes or, on Windows, backslashes too. A
+    /// relative one starts at the working folder of the process, which must stay the same until the
+    /// load is over. The artwork file beside it has the same name with the extension icfg.
     ///
     /// Every call must be followed by WaitForFormatDataLoadingComplete() before the next one and
     /// before the library is unloaded; otherwise the process is terminated. Throws

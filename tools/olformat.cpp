@@ -1,5 +1,6 @@
 #include "OLFormatCheck.h"
 #include "OLFormatPack.h"
+#include "OLOutput.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -22,7 +23,7 @@ int Check(const QCommandLineParser &parser)
     int status = fine;
     const auto findings = Orlimo::CheckFormat(parser.positionalArguments().at(1));
     for (const Orlimo::OLFinding &finding : findings) {
-        std::printf("%s\n", qPrintable(finding.ToLine()));
+        Orlimo::Print(stdout, finding.ToLine() + u'\n');
         if (finding.isFault)
             status = failed;
         else if (status == fine && parser.isSet(strict))
@@ -37,7 +38,7 @@ int Pack(const QCommandLineParser &parser)
     const QString fault = Orlimo::PackArtwork(arguments.at(1), arguments.at(2));
     if (fault.isEmpty())
         return fine;
-    std::fprintf(stderr, "olformat: %s\n", qPrintable(fault));
+    Orlimo::Print(stderr, u"olformat: %1\n"_s.arg(fault));
     return failed;
 }
 
@@ -109,13 +110,13 @@ QCommandLineOption HelpOption()
 
 int Refuse(const QString &reason, const QCommandLineParser &parser)
 {
-    std::fprintf(stderr, "olformat: %s\n\n%s", qPrintable(reason), qPrintable(parser.helpText()));
+    Orlimo::Print(stderr, u"olformat: %1\n\n%2"_s.arg(reason, parser.helpText()));
     return failed;
 }
 
 int ShowHelp(const QCommandLineParser &parser)
 {
-    std::fputs(qPrintable(parser.helpText()), stdout);
+    Orlimo::Print(stdout, parser.helpText());
     return fine;
 }
 

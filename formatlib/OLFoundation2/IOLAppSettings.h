@@ -12,7 +12,10 @@ namespace Orlimo {
 /// The store is an INI file of the user (QSettings::IniFormat, QSettings::UserScope) under the
 /// organisation and application names that the application has when Shared() is first called. Where
 /// the host set none, they are "Orlimo" and the program's name, or "OLMediaFormatPopup" where there
-/// is no application object either. All calls belong on the GUI thread.
+/// is no application object either. The file is Organisation/Application.ini in the folder for the
+/// roaming data of programs (%APPDATA%) on Windows and in $XDG_CONFIG_HOME, or ~/.config,
+/// elsewhere, unless the host has moved it with QSettings::setPath(). All texts are UTF-8 on every
+/// platform. All calls belong on the GUI thread.
 class OLFOUNDATION2_EXPORT IOLAppSettings
 {
 public:

@@ -9,7 +9,7 @@ namespace Orlimo {
 namespace {
 
 #ifdef Q_OS_WIN
-constexpr std::string_view separators = "/\\";
+constexpr std::string_view separators = "/\\:"; // a file name may follow the drive at once
 #else
 constexpr std::string_view separators = "/";
 #endif

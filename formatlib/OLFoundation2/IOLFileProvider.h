@@ -6,7 +6,10 @@
 
 namespace Orlimo {
 
-/// Works on the text of file paths (UTF-8); touches no file. May be used on any thread.
+/// Works on the text of file paths; touches no file. May be used on any thread.
+///
+/// Paths are UTF-8 on every platform. Their parts are separated by slashes, on Windows by
+/// backslashes too, where a file name may also follow the colon of a drive at once.
 class OLFOUNDATION2_EXPORT IOLFileProvider
 {
 public:

@@ -21,8 +21,12 @@ class OLFOUNDATION2_EXPORT IOLJsonReader
 public:
     IOLJsonReader() = delete;
 
-    /// Parses the file at @p path (UTF-8, absolute or relative to the working folder). Anything but
-    /// a regular file of at most 256 MiB is refused unread.
+    /// Parses the file at @p path. Anything but a regular file of at most 256 MiB is refused
+    /// unread.
+    ///
+    /// The path is UTF-8 on every platform, with slashes or, on Windows, backslashes too; a
+    /// relative one starts at the working folder of the process. The error names it as it was
+    /// given.
     static std::shared_ptr<IOLJsonValue> ReadJsonFile(std::string path,
                                                       std::shared_ptr<const IOLError> *error);
 

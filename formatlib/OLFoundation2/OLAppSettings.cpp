@@ -167,13 +167,20 @@ void MakeNewer(const QString &path, const QString &than)
         file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
 }
 
+// The system's messages come in the encoding of the system, which on Windows is no UTF-8, and may
+// end with a line break there.
+std::string MessageOf(const std::error_code &error)
+{
+    return QString::fromLocal8Bit(error.message()).trimmed().toStdString();
+}
+
 std::string ReplaceFile(const QString &target, const QString &replacement)
 {
     MakeNewer(replacement, target);
     std::error_code error;
     std::filesystem::rename(QFileInfo(replacement).filesystemFilePath(),
                             QFileInfo(target).filesystemFilePath(), error);
-    return error ? error.message() : std::string();
+    return error ? MessageOf(error) : std::string();
 }
 
 } // namespace

@@ -29,9 +29,13 @@ public:
     /// The face id of the MP4 format.
     static const int FormatFaceIDMP4;
 
-    /// Opens the artwork file at @p file (UTF-8), whose layout docs/artwork-file.md gives: reads it
-    /// into memory and checks its table, but decodes no image. Empty on failure; then, if @p error
-    /// is not null, it is set to the reason.
+    /// Opens the artwork file at the path @p file, whose layout docs/artwork-file.md gives: reads
+    /// it into memory and checks its table, but decodes no image. Empty on failure, of which
+    /// @p error, if it is not null, is set to the reason.
+    ///
+    /// The path is UTF-8 on every platform, with slashes or, on Windows, backslashes too; a
+    /// relative one starts at the working folder of the process. The error names it as it was
+    /// given.
     static std::shared_ptr<const IOLArtworkImageMgr> MallocArtworkImageMgr(
             const std::string &file, std::shared_ptr<const IOLError> *error);
 

@@ -20,9 +20,9 @@ namespace Orlimo {
 /// current indices belong to the preset. A current index of −1 means that none is chosen.
 ///
 /// In every list, an option outside it is an empty pointer, its text is empty, and a setter ignores
-/// an index outside it. Options live as long as the pointers to them. Objects are made by their
-/// preset, are changed on the GUI thread only, and may be read on any thread while nothing changes
-/// them.
+/// an index outside it. All texts are UTF-8. Options live as long as the pointers to them. Objects
+/// are made by their preset, are changed on the GUI thread only, and may be read on any thread
+/// while nothing changes them.
 class OLMEDIAFORMAT_EXPORT IOLCodecPreset
 {
 public:
@@ -32,7 +32,7 @@ public:
     IOLCodecPreset &operator=(const IOLCodecPreset &other);
     IOLCodecPreset &operator=(IOLCodecPreset &&other);
 
-    /// Returns the encoder's name, which the user sees translated.
+    /// Returns the encoder's name (UTF-8), which the user sees translated.
     virtual std::string Name() const = 0;
 
     /// Returns the number of picture sizes.

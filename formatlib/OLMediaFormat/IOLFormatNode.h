@@ -60,9 +60,9 @@ public:
     virtual std::string Name() const = 0;
     /// Returns the node's description text (UTF-8).
     virtual std::string Description() const = 0;
-    /// Sets the node's name.
+    /// Sets the node's name (UTF-8).
     virtual void SetName(std::string name) = 0;
-    /// Sets the node's description text.
+    /// Sets the node's description text (UTF-8).
     virtual void SetDescription(std::string description) = 0;
 
     /// Returns a copy without a parent. With the flag value CloneAll it has copies of all presets

@@ -26,9 +26,9 @@ public:
     IOLFormatPreset &operator=(IOLFormatPreset &&other);
 
     /// Makes a preset of the format @p formatName, named after it, with the encoders that are usual
-    /// in that format and @p description as its second text. The upper or lower case of the name
-    /// does not matter to the choice of encoders; a format that the library does not know gets the
-    /// encoders that most containers carry. GUI thread; never empty.
+    /// in that format and @p description as its second text (both UTF-8). The upper or lower case
+    /// of the name does not matter to the choice of encoders; a format that the library does not
+    /// know gets the encoders that most containers carry. GUI thread; never empty.
     static std::shared_ptr<IOLFormatPreset> MallocFormatPreset(const std::string &formatName,
                                                                const std::string &description);
 
@@ -39,13 +39,13 @@ public:
 
     /// Returns the preset's name as the lists show it (UTF-8).
     virtual std::string Name() const = 0;
-    /// Renames the preset.
+    /// Renames the preset (UTF-8).
     virtual void SetName(std::string name) = 0;
 
     /// Returns the preset's second text (UTF-8), which the search matches besides the name.
     virtual std::string Description() const = 0;
 
-    /// Returns the name of the container format, empty where the description gives none.
+    /// Returns the name of the container format (UTF-8), empty where the description gives none.
     virtual std::string FormatName() const = 0;
 
     /// Returns an independent copy with the encoders' current options. The copy shares the lists of

@@ -19,6 +19,7 @@ namespace Test {
 class FormatFolder
 {
 public:
+    QString Path() const { return m_folder.path(); }
     std::string PathOf(const QString &name) const { return m_folder.filePath(name).toStdString(); }
 
     // Writes the file, in a folder of its own where name has one, and returns its path.

@@ -2,6 +2,7 @@
 
 #include "FormatFiles.h"
 #include "FormatObjects.h"
+#include "PathForms.h"
 
 #include "IOLArtworkImageGroup.h"
 #include "OLFmtPresetDataSource.h"
@@ -20,6 +21,8 @@ class tst_OLFmtPresetDataSource_Artwork : public Test::TestCase
 private Q_SLOTS:
     void theArtworkFileLiesBesideTheDescription_data();
     void theArtworkFileLiesBesideTheDescription();
+    void theArtworkIsFoundByEveryFormOfThePath_data();
+    void theArtworkIsFoundByEveryFormOfThePath();
     void theArtworkIsThereWhenTheLoadHasBegun();
     void everyFaceIdHasItsOwnImages();
     void anUnknownFaceIdHasNoImages();
@@ -70,6 +73,9 @@ void tst_OLFmtPresetDataSource_Artwork::theArtworkFileLiesBesideTheDescription_d
     QTest::newRow("two dots") << u"formats.2.json"_s << u"formats.2.icfg"_s;
     QTest::newRow("hidden") << u".formats"_s << u".formats.icfg"_s;
     QTest::newRow("Unicode") << u"Größe/動画.json"_s << u"Größe/動画.icfg"_s;
+#ifdef Q_OS_WIN
+    QTest::newRow("dot in the folder, backslash") << u"v1.2\\formats"_s << u"v1.2\\formats.icfg"_s;
+#endif
 }
 
 void tst_OLFmtPresetDataSource_Artwork::theArtworkFileLiesBesideTheDescription()
@@ -80,6 +86,22 @@ void tst_OLFmtPresetDataSource_Artwork::theArtworkFileLiesBesideTheDescription()
     load(writeDescription(description));
     QCOMPARE(color(1001), QColor(Qt::red));
     QVERIFY(m_dataSource->GetDefaultFormatNode());
+}
+
+void tst_OLFmtPresetDataSource_Artwork::theArtworkIsFoundByEveryFormOfThePath_data()
+{
+    Test::AddPathForms();
+}
+
+void tst_OLFmtPresetDataSource_Artwork::theArtworkIsFoundByEveryFormOfThePath()
+{
+    QFETCH(const Test::PathForm, form);
+    const QString description = Test::pathBeyondAscii;
+    writeDescription(description);
+    m_folder->Write(description.chopped(4) + u"icfg"_s, ArtworkFile({ { 1001, Qt::red } }));
+    const Test::WorkingFolder workingFolder(m_folder->Path());
+    load(form(m_folder->Path(), description).toStdString());
+    QCOMPARE(color(1001), QColor(Qt::red));
 }
 
 void tst_OLFmtPresetDataSource_Artwork::theArtworkIsThereWhenTheLoadHasBegun()

@@ -2,6 +2,7 @@
 
 #include "FormatFiles.h"
 #include "FormatObjects.h"
+#include "PathForms.h"
 
 #include "OLFmtPresetDataSource.h"
 
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void waitingTwiceIsAllowed();
     void theActionIsLetGoAfterTheLoad();
     void thePathIsCopied();
+    void thePathMayHaveEveryForm_data();
+    void thePathMayHaveEveryForm();
     void thePathMayBeAnyUnicodeText();
     void aSecondLoadKeepsTheFirstTree();
     void aSecondLoadDropsATreeThatWasNotCollected();
@@ -219,6 +222,20 @@ void tst_OLFmtPresetDataSource_Load::thePathIsCopied()
     m_dataSource->AsyncLoadExternalDataSource(path, [] {});
     path.assign(path.size(), 'x');
     m_dataSource->WaitForLoadingComplete();
+    QVERIFY(m_dataSource->GetDefaultFormatNode());
+}
+
+void tst_OLFmtPresetDataSource_Load::thePathMayHaveEveryForm_data()
+{
+    Test::AddPathForms();
+}
+
+void tst_OLFmtPresetDataSource_Load::thePathMayHaveEveryForm()
+{
+    QFETCH(const Test::PathForm, form);
+    m_folder.Write(Test::pathBeyondAscii, Test::Description("Formats"));
+    const Test::WorkingFolder workingFolder(m_folder.Path());
+    load(form(m_folder.Path(), Test::pathBeyondAscii).toStdString());
     QVERIFY(m_dataSource->GetDefaultFormatNode());
 }
 

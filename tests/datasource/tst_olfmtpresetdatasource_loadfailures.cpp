@@ -72,6 +72,10 @@ void tst_OLFmtPresetDataSource_LoadFailures::aDescriptionThatCannotBeReadIsLogge
         QTest::newRow(title) << m_folder.Write(QString::fromLatin1(title) + u".json"_s, bytes);
     };
     QTest::newRow("missing") << m_folder.PathOf(u"missing.json"_s);
+    QTest::newRow("missing, beyond ASCII") << m_folder.PathOf(u"Größe 動画 𐐀/missing é.json"_s);
+#ifdef Q_OS_WIN
+    QTest::newRow("missing, backslashes") << "C:\\größe\\missing.json"s;
+#endif
     QTest::newRow("percent signs") << m_folder.PathOf(u"%s%d%n.json"_s);
     QTest::newRow("no path") << ""s;
     QTest::newRow("folder") << m_folder.PathOf({});

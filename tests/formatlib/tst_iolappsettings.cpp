@@ -425,6 +425,25 @@ private Q_SLOTS:
         QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=late\n"));
     }
 
+    void aFileThatAnotherProgramHasOpenStaysAndTheNextSaveWrites()
+    {
+#ifdef Q_OS_WIN
+        IOLAppSettings::Shared()->SetValue("first", "key");
+        IOLAppSettings::Shared()->Save();
+        IOLAppSettings::Shared()->SetValue("late", "key");
+        {
+            QFile file(FilePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            ExpectFailedSave();
+        }
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=first\n"));
+        IOLAppSettings::Shared()->Save();
+        QCOMPARE(Content(FilePath()), QByteArray("[General]\nkey=late\n"));
+#else
+        QSKIP("this platform replaces a file that is open");
+#endif
+    }
+
     void aFullDiskLeavesThePreviousFileAndTheNextSaveWrites_data()
     {
         QTest::addColumn<int>("space");

@@ -3,7 +3,9 @@
 #include "IOLAppSettings.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QProcess>
+#include <QScopeGuard>
 
 #include <optional>
 
@@ -11,7 +13,8 @@ using Orlimo::IOLAppSettings;
 
 namespace {
 
-constexpr char value[] = "written by another process";
+constexpr char usualOrganization[] = "Orlimo Test Größe 動画";
+constexpr char value[] = "written by another process: größe 動画 𐐀";
 
 int SaveValue()
 {
@@ -50,6 +53,12 @@ int SaveInAnUnnamedApplication(int &argc, char **argv)
     return SaveValue();
 }
 
+int SaveWithNamesBeyondAscii(int &, char **)
+{
+    SetNames("Größe 動画", "Spieler é");
+    return SaveValue();
+}
+
 int SaveAfterTheNamesChanged(int &argc, char **argv)
 {
     SetNames("First", "Names");
@@ -71,7 +80,7 @@ int SaveAfterTheApplication(int &argc, char **argv)
 
 int SaveInTheUsualFolder(int &, char **)
 {
-    SetNames("Orlimo Test", "Player");
+    SetNames(usualOrganization, "Spieler é");
     return SaveValue();
 }
 
@@ -104,6 +113,7 @@ constexpr Role roles[] = {
     { QLatin1StringView("names only"), &SaveWithNamesOnly },
     { QLatin1StringView("application"), &SaveInAnApplication },
     { QLatin1StringView("unnamed application"), &SaveInAnUnnamedApplication },
+    { QLatin1StringView("names beyond ascii"), &SaveWithNamesBeyondAscii },
     { QLatin1StringView("names changed"), &SaveAfterTheNamesChanged },
     { QLatin1StringView("application gone"), &SaveAfterTheApplication },
     { usualFolder, &SaveInTheUsualFolder },
@@ -126,6 +136,7 @@ private Q_SLOTS:
         // Qt names such an application after its executable.
         QTest::newRow("unnamed application")
                 << QStringLiteral("Orlimo/tst_iolappsettingsprocess.ini");
+        QTest::newRow("names beyond ascii") << QStringLiteral("Größe 動画/Spieler é.ini");
         QTest::newRow("names changed") << QStringLiteral("First/Names.ini");
         QTest::newRow("application gone") << QStringLiteral("Host/Player.ini");
     }
@@ -144,11 +155,14 @@ private Q_SLOTS:
 #ifdef Q_OS_WIN
         const QDir roaming(qEnvironmentVariable("APPDATA"));
         QVERIFY(roaming.exists());
-        const QString file = roaming.filePath(QStringLiteral("Orlimo Test/Player.ini"));
-        QFile::remove(file);
+        QDir folder(roaming.filePath(QString::fromUtf8(usualOrganization)));
+        QVERIFY(!folder.exists());
+        const auto removal = qScopeGuard([&] { folder.removeRecursively(); });
         Start(QString(usualFolder));
+        const QString file = folder.filePath(QStringLiteral("Spieler é.ini"));
         QVERIFY(QFileInfo::exists(file));
-        QVERIFY(QDir(roaming.filePath(QStringLiteral("Orlimo Test"))).removeRecursively());
+        const QSettings fresh(file, QSettings::IniFormat);
+        QCOMPARE(fresh.value(QStringLiteral("key")).toString(), QString::fromUtf8(value));
 #else
         QSKIP("the other tests look there, in a folder that stands for the user's");
 #endif

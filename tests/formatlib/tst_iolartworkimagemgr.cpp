@@ -1,4 +1,5 @@
 #include "ArtworkFileBytes.h"
+#include "PathForms.h"
 #include "TestCase.h"
 
 #include "IOLArtworkImageGroup.h"
@@ -7,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -71,6 +73,20 @@ private Q_SLOTS:
     {
         QVERIFY(!IOLArtworkImageMgr::MallocArtworkImageMgr(PathOf("missing"), nullptr));
         QVERIFY(!IOLArtworkImageMgr::MallocArtworkImageMgr(Write("none"), nullptr));
+    }
+
+    void aFileIsFoundByEveryFormOfItsPath_data() { Test::AddPathForms(); }
+
+    void aFileIsFoundByEveryFormOfItsPath()
+    {
+        QFETCH(const Test::PathForm, form);
+        Write(Test::ArtworkFile({ Test::PlainImage(7, 16, Qt::green) }), Test::pathBeyondAscii);
+        const Test::WorkingFolder workingFolder(m_folder.path());
+        const QString path = form(m_folder.path(), Test::pathBeyondAscii);
+        const ManagerPointer manager = IOLArtworkImageMgr::MallocArtworkImageMgr(path.toStdString(),
+                                                                                 nullptr);
+        QVERIFY(manager);
+        QVERIFY(manager->ArtworkGroup(7));
     }
 
     void bytesBetweenTheImagesAreAllowed()
@@ -193,6 +209,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("name");
         QTest::addColumn<QByteArray>("reason");
         QTest::newRow("missing") << QByteArray("missing.icfg") << QByteArray("exist");
+        QTest::newRow("missing, beyond ascii")
+                << QByteArray("größe 動画/missing é.icfg") << QByteArray("exist");
         QTest::newRow("folder") << QByteArray("folder") << QByteArray("regular file");
 #ifdef Q_OS_UNIX
         QTest::newRow("pipe") << QByteArray("pipe") << QByteArray("regular file");
@@ -278,9 +296,10 @@ private:
         return m_folder.filePath(QString::fromUtf8(name)).toStdString();
     }
 
-    std::string Write(const QByteArray &bytes)
+    std::string Write(const QByteArray &bytes, const QString &name = QStringLiteral("größe.icfg"))
     {
-        QFile file(m_folder.filePath(QStringLiteral("größe.icfg")));
+        QFile file(m_folder.filePath(name));
+        QDir().mkpath(QFileInfo(file).path());
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("cannot write the file");
         return file.fileName().toStdString();

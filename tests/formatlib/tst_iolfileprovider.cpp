@@ -21,6 +21,16 @@ private Q_SLOTS:
         QTest::newRow("hidden with extension") << QByteArray("/.a.json") << QByteArray("/.a");
         QTest::newRow("beyond ascii") << QByteArray("/Größe.ä") << QByteArray("/Größe");
         QTest::newRow("spaces") << QByteArray("a b.c d") << QByteArray("a b");
+#ifdef Q_OS_WIN
+        QTest::newRow("backslashes")
+                << QByteArray("C:\\a.b\\größe.json") << QByteArray("C:\\a.b\\größe");
+        QTest::newRow("both separators")
+                << QByteArray("C:\\a.b/formats.json") << QByteArray("C:\\a.b/formats");
+        QTest::newRow("drive") << QByteArray("C:formats.json") << QByteArray("C:formats");
+#else
+        QTest::newRow("backslash in the name") << QByteArray("a\\b.c") << QByteArray("a\\b");
+        QTest::newRow("backslash in the extension") << QByteArray("a.b\\c") << QByteArray("a");
+#endif
     }
 
     void removePathExtensionTakesTheLastExtensionOfTheFileName()
@@ -45,6 +55,13 @@ private Q_SLOTS:
         QTest::newRow("parent folder") << QByteArray("..");
         QTest::newRow("path of this folder") << QByteArray("a.b/.");
         QTest::newRow("path of the parent folder") << QByteArray("a.b/..");
+#ifdef Q_OS_WIN
+        QTest::newRow("dot in the folder, backslash") << QByteArray("C:\\a.b\\formats");
+        QTest::newRow("hidden file, backslash") << QByteArray("a.b\\.hidden");
+        QTest::newRow("parent folder, backslash") << QByteArray("a.b\\..");
+        QTest::newRow("hidden file of a drive") << QByteArray("C:.hidden");
+        QTest::newRow("parent folder of a drive") << QByteArray("C:..");
+#endif
     }
 
     void aPathWithoutExtensionComesBackUnchanged()

@@ -1,3 +1,4 @@
+#include "PathForms.h"
 #include "TestCase.h"
 
 #include "IOLError.h"
@@ -6,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -150,9 +152,20 @@ private Q_SLOTS:
         QVERIFY(IOLJsonReader::ReadJsonFile(Write(NestedObjects(1024)), nullptr));
     }
 
+    void aMissingFileIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("usual") << QByteArray("missing.json");
+        QTest::newRow("beyond ascii") << QByteArray("größe 動画/missing é.json");
+#ifdef Q_OS_WIN
+        QTest::newRow("backslash") << QByteArray("größe\\missing.json");
+#endif
+    }
+
     void aMissingFileIsNamed()
     {
-        const std::string path = PathOf("missing.json");
+        QFETCH(const QByteArray, name);
+        const std::string path = PathOf(name);
         ErrorPointer error;
         QVERIFY(!IOLJsonReader::ReadJsonFile(path, &error));
         ExpectFault(error, path, "exist");
@@ -214,13 +227,18 @@ private Q_SLOTS:
         QCOMPARE(array.last().toString(), QStringLiteral("end"));
     }
 
-    void aRelativePathStartsAtTheWorkingFolder()
+    void aFileIsFoundByEveryFormOfItsPath_data()
     {
-        Write("[5]", QStringLiteral("größe.json"));
-        const QString previous = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(m_folder.path()));
-        const auto value = IOLJsonReader::ReadJsonFile("größe.json", nullptr);
-        QVERIFY(QDir::setCurrent(previous));
+        Test::AddPathForms();
+    }
+
+    void aFileIsFoundByEveryFormOfItsPath()
+    {
+        QFETCH(const Test::PathForm, form);
+        Write("[5]", Test::pathBeyondAscii);
+        const Test::WorkingFolder workingFolder(m_folder.path());
+        const QString path = form(m_folder.path(), Test::pathBeyondAscii);
+        const auto value = IOLJsonReader::ReadJsonFile(path.toStdString(), nullptr);
         QVERIFY(value);
         QCOMPARE(value->ToQJsonValue(), QJsonValue(QJsonArray { 5 }));
     }
@@ -251,6 +269,7 @@ private:
     std::string Write(const QByteArray &text, const QString &name = QStringLiteral("file.json"))
     {
         QFile file(m_folder.filePath(name));
+        QDir().mkpath(QFileInfo(file).path());
         if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
             qFatal("cannot write the file");
         return file.fileName().toStdString();

@@ -1,3 +1,5 @@
+#include "MessageRecorder.h"
+#include "PathForms.h"
 #include "PopupDriver.h"
 #include "SampleDescription.h"
 #include "TestCase.h"
@@ -191,6 +193,15 @@ void loadAgain(const Scenario &scenario)
     verify(icon.pixelColor(16, 16) == QColor(Qt::green), "the artwork is the new one");
 }
 
+void loadIcons(const Scenario &scenario)
+{
+    scenario.setUp();
+    Scenario::wait();
+    Scenario::show();
+    verify(!PopupDriver(PopupDriver::FindPopup()).Tabs()->tabIcon(1).isNull(),
+           "a category has its icon");
+}
+
 const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
 {
     using S = Scenario;
@@ -213,6 +224,7 @@ const std::map<QString, std::function<void(const Scenario &)>> &scenarios()
           loadThatEndsWhileAFailureIsTakenUp },
         { u"show as the categories arrive"_s, showAsCategoriesArrive },
         { u"a second load"_s, loadAgain },
+        { u"icons"_s, loadIcons },
     };
     return all;
 }
@@ -239,17 +251,23 @@ class tst_IOLMediaFormatPopup_Loading : public Test::TestCase
 {
     Q_OBJECT
 
-    // The tabs that a child process ends with; its other output, which tells of warnings, follows.
     static QString tabsAfter(const QString &scenario, int delay = 0)
     {
         const Test::SampleDescription description;
+        return tabsAfter(scenario, description.Folder(), QString::fromStdString(description.Path()),
+                         delay);
+    }
+
+    // The tabs that a child process ends with; its other output, which tells of warnings, follows.
+    static QString tabsAfter(const QString &scenario, const QString &workingFolder,
+                             const QString &path, int delay = 0)
+    {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s); // Windows logs to the debugger
         QProcess child;
         child.setProcessEnvironment(environment);
         child.start(QCoreApplication::applicationFilePath(),
-                    { u"--scenario"_s, scenario, QString::fromStdString(description.Path()),
-                      QString::number(delay) },
+                    { u"--scenario"_s, scenario, workingFolder, path, QString::number(delay) },
                     QIODevice::ReadOnly | QIODevice::Text);
         if (!child.waitForFinished() || child.exitStatus() != QProcess::NormalExit)
             return u"the child failed: "_s + QString::fromUtf8(child.readAllStandardError());
@@ -273,6 +291,28 @@ private Q_SLOTS:
         QCOMPARE(tabsAfter(scenario), u"Recent|Video|Audio|Custom"_s + logged);
     }
 
+    void categoriesAndIconsAppearWhateverFormThePathHas_data() { Test::AddPathForms(); }
+
+    void categoriesAndIconsAppearWhateverFormThePathHas()
+    {
+        QFETCH(const Test::PathForm, form);
+        const Test::SampleDescription description(Test::pathBeyondAscii);
+        const QString folder = description.Folder();
+        QCOMPARE(tabsAfter(u"icons"_s, folder, form(folder, Test::pathBeyondAscii)),
+                 u"Recent|Video|Audio|Custom"_s);
+    }
+
+    void aFailureIsLoggedWithThePathAsItWasGiven()
+    {
+        const QString path = u"/größe 動画 𐐀/missing é.json"_s;
+        Test::MessageRecorder recorder;
+        IOLMediaFormatPopup::SetupExternalFormatData(path.toStdString());
+        IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
+        const QList<Test::Message> messages = recorder.Take();
+        QCOMPARE(messages.size(), 1);
+        QCOMPARE(messages.first().text, u"Failed load external format "_s + path);
+    }
+
     void categoriesAppearOnceWhenThePopupIsMadeWhileTheLoadEnds()
     {
         for (int delay = 0; delay <= 3000; delay += 200)
@@ -290,10 +330,12 @@ private Q_SLOTS:
 
 int main(int argc, char **argv)
 {
-    if (argc == 5 && qstrcmp(argv[1], "--scenario") == 0) {
+    if (argc == 6 && qstrcmp(argv[1], "--scenario") == 0) {
         const Test::IsolatedSettings settings;
         QApplication application(argc, argv);
-        return runScenario(QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]), atoi(argv[4]));
+        const QStringList arguments = QCoreApplication::arguments();
+        const Test::WorkingFolder workingFolder(arguments.at(3));
+        return runScenario(arguments.at(2), arguments.at(4), arguments.at(5).toInt());
     }
     return Test::Run<tst_IOLMediaFormatPopup_Loading>(argc, argv);
 }

@@ -9,10 +9,13 @@
 
 #include <QBuffer>
 #include <QDataStream>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 using namespace Orlimo;
@@ -86,19 +89,24 @@ void WriteArtwork(const QString &path, const std::map<int, QColor> &colors,
     WriteFile(path, bytes + images);
 }
 
-SampleDescription::SampleDescription()
+SampleDescription::SampleDescription(QString name)
+    : m_name(std::move(name))
 {
+    const QFileInfo description(m_folder.filePath(m_name));
+    QDir().mkpath(description.path());
     const std::string text = IOLJsonWriter::WriteJsonString(Tree()->ToJsonValue());
-    WriteFile(m_folder.filePath(QStringLiteral("formats.json")), QByteArray::fromStdString(text));
+    WriteFile(description.filePath(), QByteArray::fromStdString(text));
     std::map<int, QColor> colors;
     for (const int faceID : { 1, 2, 3, 4, 1001, 1002, 1003 })
         colors.emplace(faceID, ColorOf(faceID));
-    WriteArtwork(m_folder.filePath(QStringLiteral("formats.icfg")), colors, { 18, 33 });
+    WriteArtwork(description.path() + u'/' + description.completeBaseName()
+                         + QStringLiteral(".icfg"),
+                 colors, { 18, 33 });
 }
 
 std::string SampleDescription::Path() const
 {
-    return m_folder.filePath(QStringLiteral("formats.json")).toStdString();
+    return m_folder.filePath(m_name).toStdString();
 }
 
 void SampleDescription::Load() const

@@ -21,11 +21,15 @@ namespace Test {
 //
 // Every face id, those of the Recent (1) and Custom (2) tabs too, has a square of one colour in the
 // sizes 18 and 33.
+//
+// The description is in the file of the given name, which may be in folders below the temporary
+// one.
 class SampleDescription
 {
 public:
-    SampleDescription();
+    explicit SampleDescription(QString name = QStringLiteral("formats.json"));
 
+    QString Folder() const { return m_folder.path(); }
     std::string Path() const; // of the description, UTF-8
     void Load() const;        // into the process's data source
     static QColor ColorOf(int faceID);
@@ -35,6 +39,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QString m_name;
 };
 
 // Writes an artwork file of one-coloured squares, each in the given sizes.

@@ -62,6 +62,7 @@ public:
             qWarning("%s stays", qPrintable(m_folder.path()));
     }
 
+    QString Path() const { return m_folder.path(); }
     QString Path(const QString &name) const { return m_folder.filePath(name); }
 
     void Write(const QString &name, const QByteArray &bytes) const

@@ -46,6 +46,8 @@ private Q_SLOTS:
         QTest::newRow("empty command") << QStringList { u""_s } << u"a command is missing"_s;
         QTest::newRow("unknown command") << QStringList { u"cheque"_s, u"tree.json"_s }
                                          << u"there is no command \"cheque\""_s;
+        QTest::newRow("unknown command beyond ASCII")
+                << QStringList { u"größe 動画 𐐀"_s } << u"there is no command \"größe 動画 𐐀\""_s;
         QTest::newRow("unknown option")
                 << QStringList { u"--version"_s } << u"Unknown option 'version'."_s;
         QTest::newRow("option before its command")

@@ -1,4 +1,5 @@
 #include "FormatTool.h"
+#include "PathForms.h"
 #include "TestCase.h"
 
 using namespace Qt::StringLiterals;
@@ -194,12 +195,29 @@ private Q_SLOTS:
         QCOMPARE(result.status, 0);
     }
 
+    void aDescriptionMayHaveAnyPath_data() { Test::AddPathForms(); }
+
+    void aDescriptionMayHaveAnyPath()
+    {
+        QFETCH(const Test::PathForm, form);
+        const QString description = Test::pathBeyondAscii;
+        m_folder.Write(description, Test::Description(u"clean"_s));
+        m_folder.Write(description.chopped(4) + u"icfg"_s,
+                       Test::ArtworkFile(Test::CompleteImages()));
+        const QString path = form(m_folder.Path(), description);
+        const Test::ToolResult result = m_folder.Run({ u"check"_s, u"--strict"_s, path });
+        QCOMPARE(result.output, QString());
+        QCOMPARE(result.status, 0);
+    }
+
     void aFileThatCannotBeReadIsAFault_data()
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("line");
         QTest::newRow("not there")
                 << u"none.json"_s << u"none.json: error: the file does not exist"_s;
+        QTest::newRow("not there, beyond ASCII")
+                << u"größe 動画 é.json"_s << u"größe 動画 é.json: error: the file does not exist"_s;
         QTest::newRow("folder") << u"folder.json"_s << u"folder.json: error: not a regular file"_s;
     }
 

@@ -29,19 +29,30 @@ class tst_OLFormatPack : public Test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void thePickersLibraryReadsWhatItPacked_data()
+    {
+        QTest::addColumn<QString>("images");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("usual") << u"png"_s << u"a.icfg"_s;
+        QTest::newRow("beyond ASCII") << u"größe 動画"_s << u"ä é.icfg"_s;
+    }
+
     void thePickersLibraryReadsWhatItPacked()
     {
+        QFETCH(const QString, images);
+        QFETCH(const QString, file);
         const Test::ToolFolder folder;
-        folder.Write(u"png/7.png"_s, Square(18));
-        folder.Write(u"png/2x/7-video.png"_s, Square(36));
-        folder.Write(u"png/-8-other.png"_s, Test::Png(QSize(5, 9), Qt::green));
-        folder.Write(u"png/notes.txt"_s, "no image");
-        const Test::ToolResult result = folder.Run({ u"pack"_s, u"png"_s, u"a.icfg"_s });
+        folder.Write(images + u"/7.png"_s, Square(18));
+        folder.Write(images + u"/2x/7-video.png"_s, Square(36));
+        folder.Write(images + u"/-8-other.png"_s, Test::Png(QSize(5, 9), Qt::green));
+        folder.Write(images + u"/notes.txt"_s, "no image");
+        const Test::ToolResult result = folder.Run({ u"pack"_s, images, file });
         QCOMPARE(result.errors, QString());
         QCOMPARE(result.status, 0);
 
-        const auto artwork = Orlimo::IOLArtworkImageMgr::MallocArtworkImageMgr(
-                folder.Path(u"a.icfg"_s).toStdString(), nullptr);
+        const auto artwork =
+                Orlimo::IOLArtworkImageMgr::MallocArtworkImageMgr(folder.Path(file).toStdString(),
+                                                                  nullptr);
         QVERIFY(artwork);
         const auto sizesOf = [&](int face) {
             const auto group = artwork->ArtworkGroup(face);
@@ -60,6 +71,8 @@ private Q_SLOTS:
         Row("no PNG file", { { u"1001.txt"_s, "text" } }, "png: there are no PNG files");
         Row("name without a face id", { { u"mp4.png"_s, Square(18) } },
             "png/mp4.png: the name does not begin with a face id");
+        Row("name beyond ASCII", { { u"größe 動画.png"_s, Square(18) } },
+            "png/größe 動画.png: the name does not begin with a face id");
         Row("face id without an end", { { u"1001mp4.png"_s, Square(18) } },
             "png/1001mp4.png: the name does not begin with a face id");
         Row("face id beyond 32 bits", { { u"2147483648.png"_s, Square(18) } },
