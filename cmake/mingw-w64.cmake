@@ -7,6 +7,11 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
+# The linker writes no time, so that the same sources make the same files.
+foreach(kind IN ITEMS EXE SHARED MODULE)
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-Wl,--no-insert-timestamp")
+endforeach()
+
 # Where Qt for Windows is; scripts/windows-qt makes it.
 set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORLIMO_WINDOWS_QT)

@@ -11,7 +11,7 @@ scale_percent=100 # device pixels in 100 pixels of the host, in which the locato
 patience=20       # seconds
 
 build=$root/build/demo-build
-host_program=$build/examples/host/examplehost
+host_command=("$build/examples/host/examplehost")
 
 # Set by start_driver: where the output of the host, its settings and the pictures go.
 work=
@@ -190,7 +190,7 @@ build_host() {
 # start_host [LANGUAGE]
 start_host() {
     local options=(--locator --settings "$settings" ${1:+--language "$1"})
-    coproc HOST { exec "$host_program" "${options[@]}" 2>>"$work/host.log"; }
+    coproc HOST { exec "${host_command[@]}" "${options[@]}" 2>>"$work/host.log"; }
     host_pid=${HOST_PID:-}
     exec {host_out}<&"${HOST[0]}" {host_in}>&"${HOST[1]}"
     wait_until "the host's window is shown" is_shown host
@@ -229,6 +229,7 @@ ask() {
     local line
     printf '%s\n' "$*" >&"$host_in" || fail "the host is gone"
     while IFS= read -r -t "$patience" line <&"$host_out"; do
+        line=${line%$'\r'} # on Windows
         if [[ $line == '='* ]]; then
             answer=${line#= }
             return

@@ -83,7 +83,7 @@ void CheckFormatObjects()
           "a tree survives JSON");
 }
 
-void CheckArtwork(const char *file)
+void CheckArtwork(const std::string &file)
 {
     const auto artwork = IOLArtworkImageMgr::MallocArtworkImageMgr(file, nullptr);
     const auto group = artwork ? artwork->ArtworkGroup(IOLArtworkImageMgr::FormatFaceIDMP4)
@@ -130,7 +130,7 @@ QWidget *VisibleWindow()
     return nullptr;
 }
 
-void CheckPopup(const char *description)
+void CheckPopup(const std::string &description)
 {
     IOLMediaFormatPopup::SetupExternalFormatData(description);
     IOLMediaFormatPopup::WaitForFormatDataLoadingComplete();
@@ -158,18 +158,20 @@ void CheckPopup(const char *description)
 
 int main(int argc, char **argv)
 {
-    if (argc != 3)
-        return 2;
     QApplication application(argc, argv);
+    // Not those of main, which on Windows are in the code page of the user.
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3)
+        return 2;
     QCoreApplication::setOrganizationName(QStringLiteral("Foreign Company"));
     QCoreApplication::setApplicationName(QStringLiteral("Foreign Application"));
 
     CheckTexts();
     CheckJson();
     CheckFormatObjects();
-    CheckArtwork(argv[2]);
+    CheckArtwork(arguments[2].toStdString());
     CheckSettings();
     CheckPresets();
-    CheckPopup(argv[1]);
+    CheckPopup(arguments[1].toStdString());
     return failures == 0 ? 0 : 1;
 }
