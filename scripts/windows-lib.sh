@@ -5,7 +5,7 @@
 
 windows_qt=${WINDOWS_QT:-${XDG_CACHE_HOME:-$HOME/.cache}/orlimo/windows-qt}
 windows_packages=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)
-wine_packages=(wine64 xvfb xauth)
+wine_packages=(openbox wine64 xauth xvfb)
 windows_compiler=x86_64-w64-mingw32-g++-posix
 wine=/usr/lib/wine/wine64
 wineserver=/usr/lib/wine/wineserver64
