@@ -13,7 +13,9 @@ foreach(kind IN ITEMS EXE SHARED MODULE)
 endforeach()
 
 # Where Qt for Windows is; scripts/windows-qt makes it.
-set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows")
+if(DEFINED ENV{WINDOWS_QT})
+    set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows" FORCE)
+endif()
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORLIMO_WINDOWS_QT)
 
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${ORLIMO_WINDOWS_QT})

@@ -3,7 +3,7 @@
 # What the scripts for Windows share: where Qt for Windows is, the Debian packages they need, and what
 # they ask of programs and libraries.
 
-windows_qt=${WINDOWS_QT:-${XDG_CACHE_HOME:-$HOME/.cache}/orlimo/windows-qt}
+windows_qt=$(realpath -m "${WINDOWS_QT:-${XDG_CACHE_HOME:-${HOME:-/root}/.cache}/orlimo/windows-qt}")
 windows_packages=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 mingw-w64-x86-64-dev)
 wine_packages=(openbox wine64 xauth xvfb)
 windows_compiler=x86_64-w64-mingw32-g++-posix

@@ -47,7 +47,7 @@ constexpr bool toldOfFocusLate = true;
 #else
 constexpr bool toldOfFocusLate = false;
 #endif
-constexpr auto settlingTime = 1ms; // by then it is told
+constexpr auto settlingTime = 5ms; // by then it is told as a rule
 
 QString Text(const char *source)
 {
@@ -222,13 +222,14 @@ void RPFmtSelectionDlg::Activate()
     activateWindow();
     if (QGuiApplication::focusWindow() == windowHandle())
         QApplication::setActiveWindow(this);
+    lossHeldBack = false;
     if (settling.isActive())
         settling.start();
 }
 
 void RPFmtSelectionDlg::CloseIfLeft()
 {
-    if (!isActiveWindow())
+    if (lossHeldBack && !isActiveWindow())
         CloseWithoutChoice();
 }
 
@@ -388,7 +389,11 @@ void RPFmtSelectionDlg::focusOutEvent(QFocusEvent *event)
 {
     const bool clickInside = event->reason() == Qt::MouseFocusReason
             && rect().contains(mapFromGlobal(QCursor::pos()));
-    if (!clickInside && !settling.isActive())
+    if (clickInside)
+        return;
+    if (settling.isActive() && event->reason() == Qt::ActiveWindowFocusReason)
+        lossHeldBack = true;
+    else
         CloseWithoutChoice();
 }
 

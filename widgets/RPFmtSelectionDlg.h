@@ -94,11 +94,12 @@ private:
     Callback selectCallback;
     QLineEdit *searchEdit = nullptr;
     std::function<void()> requestedShow; // asked for while showing or hiding, if it was
-    QTimer settling;                 // focus changes may come from an earlier hiding of the popup
-    QPoint place;                    // where the popup was last opened
-    int corrections = 0;             // how often it was put back there
-    int openings = 0;                // how often the popup was shown
-    bool selecting = false;          // a choice is being reported or a preset edited
+    QTimer settling;                     // the window system may still tell of an earlier focus
+    bool lossHeldBack = false;           // what it tells of the focus was put off until then
+    QPoint place;                        // where the popup was last opened
+    int corrections = 0;                 // how often it was put back there
+    int openings = 0;                    // how often the popup was shown
+    bool selecting = false;              // a choice is being reported or a preset edited
     bool changingVisibility = false; // focus changes come from showing or hiding the popup itself
     bool switchingPage = false;      // focus changes come from the change to another tab
 };

@@ -79,6 +79,7 @@ private:
     QList<Report> m_reports;
     std::set<int> m_due; // the openings whose callback is still to be called
     int m_opening = 0;
+    [[maybe_unused]] int m_settledOpening = 0;
     bool m_callbacksReopen = true;
     bool m_loaded = false;
     bool m_customOrderIsLoose = false;

@@ -1,7 +1,8 @@
-// Loads the plugin, plays the scenario, unloads the plugin, and prints a line for each step:
-// whether the picker's library is mapped and whether its resources are registered.
+// Loads the picker's library and a plugin that uses it, plays the scenario, unloads both, and
+// prints a line for each step: whether the library is mapped and whether its resources are
+// registered.
 //
-// unloadinghost PLUGIN DESCRIPTION load|unjoined|popup|catalogue
+// unloadinghost PLUGIN DESCRIPTION load|unjoined|twice|end|popup|catalogue
 
 #include "LoadedLibrary.h"
 
@@ -66,6 +67,12 @@ Function *Resolve(const LoadedLibrary &plugin, const char *name)
     return reinterpret_cast<Function *>(function);
 }
 
+void SayErrorOf(const LoadedLibrary &library)
+{
+    if (!library.Error().isEmpty())
+        Say(library.Error().constData());
+}
+
 void Load(const LoadedLibrary &plugin, const char *description)
 {
     Resolve<void(const char *)>(plugin, "StartLoading")(description);
@@ -96,23 +103,27 @@ void Translate()
 int Play(const char *pluginFile, const char *description, const QString &scenario)
 {
     SayState("before");
-    LoadedLibrary plugin(pluginFile);
-    if (!plugin.Error().isEmpty()) {
-        Say(plugin.Error().constData());
-        return 2;
-    }
+    LoadedLibrary library(ORLIMO_LIBRARY_FILE);
+    SayErrorOf(library);
     SayState("loaded");
-    if (scenario == "unjoined"_L1)
+    LoadedLibrary plugin(pluginFile);
+    SayErrorOf(plugin);
+    if (scenario == "unjoined"_L1 || scenario == "twice"_L1 || scenario == "end"_L1)
         Resolve<void(const char *)>(plugin, "StartLoading")(description);
     else
         Load(plugin, description);
+    if (scenario == "twice"_L1)
+        Resolve<void(const char *)>(plugin, "StartLoading")(description);
+    if (scenario == "end"_L1)
+        return 0;
     if (scenario == "popup"_L1)
         ShowPopup(plugin);
     if (scenario == "catalogue"_L1)
         Translate();
     plugin.Unload();
-    if (!plugin.Error().isEmpty())
-        Say(plugin.Error().constData());
+    SayErrorOf(plugin);
+    library.Unload();
+    SayErrorOf(library);
     SayState("unloaded");
     if (scenario == "catalogue"_L1)
         Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));

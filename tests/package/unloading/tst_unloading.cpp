@@ -12,7 +12,8 @@ class tst_Unloading : public Test::TestCase
 private Q_SLOTS:
     void aUsedDataSourceGoesWithTheLibraryAndItsResources();
     void aCatalogueIsUsedUntilItIsRemovedBeforeTheLibraryGoes();
-    void unloadingWithAnUnjoinedLoadTerminatesTheProcess();
+    void anUnjoinedLoadTerminatesTheProcess_data();
+    void anUnjoinedLoadTerminatesTheProcess();
     void aPopupKeepsTheLibraryAndItsResourcesToTheEnd();
 
 private:
@@ -62,9 +63,18 @@ void tst_Unloading::aCatalogueIsUsedUntilItIsRemovedBeforeTheLibraryGoes()
     QCOMPARE(m_exitCode, 0);
 }
 
-void tst_Unloading::unloadingWithAnUnjoinedLoadTerminatesTheProcess()
+void tst_Unloading::anUnjoinedLoadTerminatesTheProcess_data()
 {
-    Run(u"unjoined"_s);
+    QTest::addColumn<QString>("scenario");
+    QTest::newRow("when the library is unloaded") << u"unjoined"_s;
+    QTest::newRow("at the next load") << u"twice"_s;
+    QTest::newRow("at the end of the program") << u"end"_s;
+}
+
+void tst_Unloading::anUnjoinedLoadTerminatesTheProcess()
+{
+    QFETCH(const QString, scenario);
+    Run(scenario);
     QCOMPARE(m_output,
              u"before: not mapped, without resources\n"
              "loaded: mapped, with resources\n"
