@@ -183,8 +183,9 @@ void PopupScene::CheckWindows()
     Verify(QTest::qWaitFor([popup] { return Test::IsActive(*popup); }),
            u"the open popup is not active"_s);
 #ifdef Q_OS_WIN
-    QTest::qWait(
-            2); // shown again at once, it waits for what Windows still has to tell of the focus
+    // Shown again at once, it first waits for what else it is told of the focus.
+    if (std::exchange(m_settledOpening, m_opening) != m_opening)
+        QTest::qWait(25);
 #endif
 }
 
