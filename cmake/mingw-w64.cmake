@@ -13,7 +13,7 @@ foreach(kind IN ITEMS EXE SHARED MODULE)
 endforeach()
 
 # Where Qt for Windows is; scripts/windows-qt makes it.
-if(DEFINED ENV{WINDOWS_QT})
+if(NOT "$ENV{WINDOWS_QT}" STREQUAL "")
     set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows" FORCE)
 endif()
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORLIMO_WINDOWS_QT)

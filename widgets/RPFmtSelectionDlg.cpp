@@ -229,7 +229,8 @@ void RPFmtSelectionDlg::Activate()
 
 void RPFmtSelectionDlg::CloseIfLeft()
 {
-    if (lossHeldBack && !isActiveWindow())
+    const bool isLeft = lossHeldBack || QApplication::activeWindow();
+    if (isLeft && !isActiveWindow())
         CloseWithoutChoice();
 }
 

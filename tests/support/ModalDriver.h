@@ -11,8 +11,8 @@ namespace Test {
 
 // Drives a window that opens modally, and so keeps the test waiting: made before the call that
 // opens the window, it runs action(window) as soon as a modal window of the class is active. The
-// test fails where none has opened by the end of the scope, where it does not become active and
-// where action leaves the window open, which is then closed.
+// test fails where none has opened by the end of the scope, where it does not become active, but on
+// Windows, and where action leaves the window open, which is then closed.
 template<class Window>
 class WhenOpen
 {

@@ -209,16 +209,26 @@ private Q_SLOTS:
         QCOMPARE(reports, Reports());
     }
 
+    void popupThatIsShownAgainAndLosesTheFocusAtOnceCloses_data()
+    {
+        QTest::addColumn<Closing>("close");
+        QTest::newRow("choice") << Closing(chooseRow);
+        QTest::newRow("another window") << Closing(activateOtherWindow);
+    }
+
     void popupThatIsShownAgainAndLosesTheFocusAtOnceCloses()
     {
+        QFETCH(const Closing, close);
+        QWidget other;
+        other.show();
         Scene scene;
         Reports reports;
         const auto reopen = [&](auto, auto) {
             scene.popup.ShowPopup(appendingTo(reports), Scene::anchor);
-            scene.host.activateWindow();
+            other.activateWindow();
         };
         scene.popup.ShowPopup(reopen, Scene::anchor);
-        chooseRow(scene);
+        close(scene);
         QTRY_VERIFY(!scene.popup.isVisible());
         QCOMPARE(reports, Reports(u"nothing"_s));
     }

@@ -10,9 +10,8 @@
 
 #ifdef Q_OS_WIN
 
-LoadedLibrary::LoadedLibrary(const char *path)
-    : m_handle(
-            LoadLibraryW(reinterpret_cast<const wchar_t *>(QString::fromLocal8Bit(path).utf16())))
+LoadedLibrary::LoadedLibrary(const QString &path)
+    : m_handle(LoadLibraryW(reinterpret_cast<const wchar_t *>(path.utf16())))
 {
     if (!m_handle)
         m_error = "LoadLibrary: " + QByteArray::number(static_cast<uint>(GetLastError()));
@@ -36,8 +35,8 @@ bool LoadedLibrary::IsMapped(const char *fileName)
 
 #else
 
-LoadedLibrary::LoadedLibrary(const char *path)
-    : m_handle(dlopen(path, RTLD_NOW | RTLD_LOCAL))
+LoadedLibrary::LoadedLibrary(const QString &path)
+    : m_handle(dlopen(QFile::encodeName(path).constData(), RTLD_NOW | RTLD_LOCAL))
 {
     if (!m_handle)
         m_error = dlerror();

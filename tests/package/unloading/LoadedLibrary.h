@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 // A library that is loaded at run time, and what the process knows of libraries.
 class LoadedLibrary
 {
 public:
-    // The path is in the encoding of main()'s arguments.
-    explicit LoadedLibrary(const char *path);
+    explicit LoadedLibrary(const QString &path);
 
     // Of the first call that failed; empty where none did.
     const QByteArray &Error() const { return m_error; }

@@ -100,10 +100,10 @@ void Translate()
     Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
 }
 
-int Play(const char *pluginFile, const char *description, const QString &scenario)
+int Play(const QString &pluginFile, const char *description, const QString &scenario)
 {
     SayState("before");
-    LoadedLibrary library(ORLIMO_LIBRARY_FILE);
+    LoadedLibrary library(QString::fromUtf8(ORLIMO_LIBRARY_FILE));
     SayErrorOf(library);
     SayState("loaded");
     LoadedLibrary plugin(pluginFile);
@@ -143,5 +143,5 @@ int main(int argc, char **argv)
     const std::unique_ptr<QCoreApplication> application(scenario == "popup"_L1
                                                                 ? new QApplication(argc, argv)
                                                                 : new QCoreApplication(argc, argv));
-    return Play(argv[1], argv[2], scenario);
+    return Play(QString::fromLocal8Bit(argv[1]), argv[2], scenario);
 }
