@@ -80,8 +80,9 @@ public:
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
-        process.start(QStringLiteral(ORLIMO_FORMAT_TOOL), arguments,
-                      QIODevice::ReadOnly | QIODevice::Text);
+        process.setProgram(QStringLiteral(ORLIMO_FORMAT_TOOL));
+        process.setArguments(arguments);
+        Start(process);
         if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
             qFatal("the tool did not end: %s", qPrintable(process.errorString()));
         return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
@@ -97,6 +98,14 @@ public:
     }
 
 private:
+    // Of ten thousand processes that a busy Wine is to start, one does not.
+    static void Start(QProcess &process)
+    {
+        process.start(QIODevice::ReadOnly | QIODevice::Text);
+        if (!process.waitForStarted())
+            process.start(QIODevice::ReadOnly | QIODevice::Text);
+    }
+
     QTemporaryDir m_folder;
 };
 
