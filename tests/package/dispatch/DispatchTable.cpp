@@ -1,13 +1,19 @@
 #include "DispatchTable.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QMultiHash>
-#include <QProcess>
 #include <QRegularExpression>
 
+#include <array>
 #include <optional>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
 #include <dlfcn.h>
 #include <link.h>
+#endif
 
 namespace Test {
 
@@ -18,20 +24,46 @@ using namespace Qt::StringLiterals;
 // The offset to the whole object and the type information stand before the operations.
 constexpr quintptr headerSize = 2 * sizeof(void *);
 
-struct Symbol
-{
-    quintptr size = 0;
-    QString name;
-};
+using SymbolTable = QMultiHash<quintptr, QString>; // names by address in the file
 
-using SymbolTable = QMultiHash<quintptr, Symbol>; // by address in the file
-
-// The file of the library that holds an address, and where it is loaded.
+// The file of the library that holds an address, and how far from the addresses in that file it is
+// loaded.
 struct LoadedLibrary
 {
     QString file;
-    quintptr base = 0;
+    quintptr distance = 0;
 };
+
+#ifdef Q_OS_WIN
+
+// In memory, the loader has replaced it with the address of its own choice.
+quintptr AddressInFile(const QString &library)
+{
+    QFile file(library);
+    IMAGE_DOS_HEADER header = {};
+    IMAGE_NT_HEADERS headers = {};
+    if (!file.open(QIODevice::ReadOnly)
+        || file.read(reinterpret_cast<char *>(&header), sizeof header) != sizeof header
+        || !file.seek(header.e_lfanew)
+        || file.read(reinterpret_cast<char *>(&headers), sizeof headers) != sizeof headers)
+        return 0;
+    return quintptr(headers.OptionalHeader.ImageBase);
+}
+
+std::optional<LoadedLibrary> LibraryOf(const void *address)
+{
+    HMODULE module = nullptr;
+    std::array<wchar_t, MAX_PATH> path = {};
+    if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS
+                                    | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            static_cast<LPCWSTR>(address), &module)
+        || GetModuleFileNameW(module, path.data(), DWORD(path.size())) == 0)
+        return std::nullopt;
+    const QString file = QString::fromWCharArray(path.data());
+    return LoadedLibrary { file, reinterpret_cast<quintptr>(module) - AddressInFile(file) };
+}
+
+#else
 
 std::optional<LoadedLibrary> LibraryOf(const void *address)
 {
@@ -42,6 +74,8 @@ std::optional<LoadedLibrary> LibraryOf(const void *address)
     return LoadedLibrary { QString::fromLocal8Bit(info.dli_fname),
                            quintptr(static_cast<const link_map *>(map)->l_addr) };
 }
+
+#endif
 
 // Drops what says nothing in our names. Demanglers differ in the blank between two ">".
 QString Shortened(QString name)
@@ -57,30 +91,31 @@ QString Shortened(QString name)
     return name.remove(u"std::"_s).remove(u"Orlimo::"_s);
 }
 
+// The build has written them into a file with the name of the library's target.
 SymbolTable ReadSymbols(const QString &library)
 {
-    QProcess nm;
-    nm.start(QStringLiteral(ORLIMO_NM),
-             { u"--demangle"_s, u"--print-size"_s, u"--defined-only"_s, library });
-    if (!nm.waitForFinished() || nm.exitCode() != 0)
+    QString target = QFileInfo(library).baseName();
+    if (target.startsWith("lib"_L1))
+        target.remove(0, 3);
+    QFile file(QStringLiteral(ORLIMO_SYMBOLS_FOLDER "/%1.symbols").arg(target));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
-    static const QRegularExpression pattern(u"^([0-9a-f]+) ([0-9a-f]+) \\w (.+)$"_s);
+    static const QRegularExpression functionOrTable(u"^([0-9a-f]+) [TtWwVvDdRr] (.+)$"_s);
     SymbolTable symbols;
-    const QStringList lines = QString::fromUtf8(nm.readAllStandardOutput()).split(u'\n');
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
     for (const QString &line : lines) {
-        const QRegularExpressionMatch match = pattern.match(line);
+        const QRegularExpressionMatch match = functionOrTable.match(line);
         if (match.hasMatch())
-            symbols.insert(match.captured(1).toULongLong(nullptr, 16),
-                           { match.captured(2).toULongLong(nullptr, 16), match.captured(3) });
+            symbols.insert(match.captured(1).toULongLong(nullptr, 16), match.captured(2));
     }
     return symbols;
 }
 
-std::optional<Symbol> TableAt(const SymbolTable &symbols, quintptr address)
+std::optional<QString> TableAt(const SymbolTable &symbols, quintptr address)
 {
-    for (const Symbol &symbol : symbols.values(address)) {
-        if (symbol.name.startsWith("vtable for Orlimo::"_L1))
-            return symbol;
+    for (const QString &name : symbols.values(address)) {
+        if (name.startsWith("vtable for Orlimo::"_L1))
+            return name;
     }
     return std::nullopt;
 }
@@ -101,20 +136,25 @@ void DispatchTable::Read(const void *object)
         return;
     }
     const SymbolTable symbols = ReadSymbols(library->file);
-    const auto table = TableAt(symbols, quintptr(operations) - library->base - headerSize);
-    if (!table) {
+    const auto name = TableAt(symbols, quintptr(operations) - library->distance - headerSize);
+    if (!name) {
         m_fault = library->file + u" has no name for the table; is it stripped?"_s;
         return;
     }
-    m_className = Shortened(table->name).mid(qsizetype(qstrlen("vtable for ")));
+    m_className = Shortened(*name).mid(qsizetype(qstrlen("vtable for ")));
+    ReadOperations(symbols, operations, library->distance);
+}
 
-    const quintptr count = (table->size - headerSize) / sizeof(void *);
-    for (quintptr i = 0; i < count; ++i) {
+// No file format says the same of where a table ends; what follows it is never a function.
+void DispatchTable::ReadOperations(const QMultiHash<quintptr, QString> &symbols,
+                                   const void *const *operations, quintptr distance)
+{
+    for (const void *const *operation = operations;; ++operation) {
         QSet<QString> names;
-        for (const Symbol &symbol : symbols.values(quintptr(operations[i]) - library->base))
-            names.insert(Shortened(symbol.name));
+        for (const QString &name : symbols.values(quintptr(*operation) - distance))
+            names.insert(Shortened(name));
         if (names.isEmpty())
-            m_fault = u"entry %1 is no function of %2"_s.arg(i).arg(library->file);
+            return;
         m_operations.push_back(names);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMultiHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -9,7 +10,7 @@
 namespace Test {
 
 // The virtual operations of a live object in the order of its dispatch table, read from memory and
-// named from the symbol table of the loaded library that holds the table.
+// named from the symbol table of the library that holds the table, which the build has listed.
 //
 // This knows the C++ ABI of GCC and Clang (Itanium), which lays out the operations in the order of
 // their declarations. Other ABIs group overloads and reverse them.
@@ -17,7 +18,7 @@ class DispatchTable
 {
 public:
     // The object's table is the one its first word points to. IsValid() is false where the library
-    // has no name for the table or for one of its entries.
+    // has no name for the table.
     explicit DispatchTable(const void *object);
 
     bool IsValid() const { return m_fault.isEmpty(); }
@@ -39,6 +40,8 @@ public:
 
 private:
     void Read(const void *object);
+    void ReadOperations(const QMultiHash<quintptr, QString> &symbols, const void *const *operations,
+                        quintptr distance);
 
     QString m_fault;
     QString m_className;
