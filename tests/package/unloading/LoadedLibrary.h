@@ -9,7 +9,7 @@ class LoadedLibrary
 public:
     explicit LoadedLibrary(const QString &path);
 
-    // Of the first call that failed; empty where none did.
+    // Of the last call that failed; empty where none did.
     const QByteArray &Error() const { return m_error; }
 
     // Gives nullptr where the library has no such function.

@@ -1,8 +1,8 @@
-// Loads the picker's library and a plugin that uses it, plays the scenario, unloads both, and
-// prints a line for each step: whether the library is mapped and whether its resources are
-// registered.
+// Loads the picker's library and a plugin that uses it, and takes the steps in their order. Prints
+// what they see, and before the first, behind the loading and behind the unloading whether the
+// library is mapped and whether its resources are registered.
 //
-// unloadinghost PLUGIN DESCRIPTION load|unjoined|twice|end|popup|catalogue
+// unloadinghost PLUGIN DESCRIPTION start|wait|count|popup|translate|unload...
 
 #include "LoadedLibrary.h"
 
@@ -67,17 +67,12 @@ Function *Resolve(const LoadedLibrary &plugin, const char *name)
     return reinterpret_cast<Function *>(function);
 }
 
-void SayErrorOf(const LoadedLibrary &library)
+void EndWithErrorOf(const LoadedLibrary &library)
 {
-    if (!library.Error().isEmpty())
-        Say(library.Error().constData());
-}
-
-void Load(const LoadedLibrary &plugin, const char *description)
-{
-    Resolve<void(const char *)>(plugin, "StartLoading")(description);
-    Resolve<void()>(plugin, "WaitForLoading")();
-    std::printf("categories: %d\n", Resolve<int()>(plugin, "CategoryCount")());
+    if (library.Error().isEmpty())
+        return;
+    Say(library.Error().constData());
+    std::_Exit(5);
 }
 
 void ShowPopup(const LoadedLibrary &plugin)
@@ -90,6 +85,11 @@ void ShowPopup(const LoadedLibrary &plugin)
     }
 }
 
+void SayTranslation()
+{
+    Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
+}
+
 // With a catalogue that is read where it lies, in the library.
 void Translate()
 {
@@ -97,51 +97,69 @@ void Translate()
     if (!translator.load(u":/OLMediaFormatPopup/OLLanguage/Deutsch_format.qm"_s))
         Say("no catalogue");
     QCoreApplication::installTranslator(&translator);
-    Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
+    SayTranslation();
 }
 
-int Play(const QString &pluginFile, const char *description, const QString &scenario)
+void Unload(LoadedLibrary &library)
+{
+    library.Unload();
+    EndWithErrorOf(library);
+}
+
+void Take(const QString &step, LoadedLibrary &library, LoadedLibrary &plugin,
+          const QString &description)
+{
+    if (step == "start"_L1)
+        Resolve<void(const char *)>(plugin, "StartLoading")(qUtf8Printable(description));
+    else if (step == "wait"_L1)
+        Resolve<void()>(plugin, "WaitForLoading")();
+    else if (step == "count"_L1)
+        std::printf("categories: %d\n", Resolve<int()>(plugin, "CategoryCount")());
+    else if (step == "popup"_L1)
+        ShowPopup(plugin);
+    else if (step == "translate"_L1)
+        Translate();
+    if (step != "unload"_L1)
+        return;
+    Unload(plugin);
+    Unload(library);
+    SayState("unloaded");
+    SayTranslation();
+    QCoreApplication::processEvents();
+}
+
+int Play(const QString &pluginFile, const QString &description, const QStringList &steps)
 {
     SayState("before");
     LoadedLibrary library(QString::fromUtf8(ORLIMO_LIBRARY_FILE));
-    SayErrorOf(library);
+    EndWithErrorOf(library);
     SayState("loaded");
     LoadedLibrary plugin(pluginFile);
-    SayErrorOf(plugin);
-    if (scenario == "unjoined"_L1 || scenario == "twice"_L1 || scenario == "end"_L1)
-        Resolve<void(const char *)>(plugin, "StartLoading")(description);
-    else
-        Load(plugin, description);
-    if (scenario == "twice"_L1)
-        Resolve<void(const char *)>(plugin, "StartLoading")(description);
-    if (scenario == "end"_L1)
-        return 0;
-    if (scenario == "popup"_L1)
-        ShowPopup(plugin);
-    if (scenario == "catalogue"_L1)
-        Translate();
-    plugin.Unload();
-    SayErrorOf(plugin);
-    library.Unload();
-    SayErrorOf(library);
-    SayState("unloaded");
-    if (scenario == "catalogue"_L1)
-        Say(qUtf8Printable(QCoreApplication::translate("RPObject", "Web Video")));
-    QCoreApplication::processEvents();
+    EndWithErrorOf(plugin);
+    for (const QString &step : steps)
+        Take(step, library, plugin, description);
     return 0;
+}
+
+// Only the popup needs more than the application object of QtCore.
+std::unique_ptr<QCoreApplication> MakeApplication(int &argc, char **argv)
+{
+    for (int i = 0; i < argc; ++i) {
+        if (qstrcmp(argv[i], "popup") == 0)
+            return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc != 4)
-        return 2;
     TellHowItEnds();
-    const QString scenario = QString::fromLocal8Bit(argv[3]);
-    // Only the popup needs more than the application object of QtCore.
-    const std::unique_ptr<QCoreApplication> application(scenario == "popup"_L1
-                                                                ? new QApplication(argc, argv)
-                                                                : new QCoreApplication(argc, argv));
-    return Play(QString::fromLocal8Bit(argv[1]), argv[2], scenario);
+    const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
+    // Not those of main, which on Windows are in the code page of the user.
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 3)
+        return 2;
+    return Play(arguments[1], arguments[2], arguments.mid(3));
 }
