@@ -10,11 +10,12 @@ windows_compiler=x86_64-w64-mingw32-g++-posix
 wine=/usr/lib/wine/wine64
 wineserver=/usr/lib/wine/wineserver64
 qt_host_cmake=/usr/lib/x86_64-linux-gnu/cmake
-whole_mark=.whole # in the folder once everything is there
+begun_mark=.begun # in the folder of Qt while it is installed
+whole_mark=.whole # in it once everything is there, with the name and version of Debian's source
 
 # is_whole FOLDER: whether it has a Qt for Windows that was built to the end.
 is_whole() {
-    [[ -e $1/$whole_mark && -e $1/bin/Qt6Widgets.dll && -e $1/plugins/platforms/qwindows.dll ]]
+    [[ -s $1/$whole_mark && -e $1/bin/Qt6Widgets.dll && -e $1/plugins/platforms/qwindows.dll ]]
 }
 
 # imports FILE...: the names of the libraries that they load.

@@ -12,6 +12,10 @@
 
 #include <optional>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 using namespace Qt::StringLiterals;
 using Orlimo::IOLMediaFormatPopup;
 
@@ -37,6 +41,9 @@ int RunWindow(const Host::HostOptions &options)
 
 int main(int argc, char **argv)
 {
+#ifdef Q_OS_WIN
+    SetConsoleOutputCP(CP_UTF8); // for the names that are printed
+#endif
 #ifdef Q_OS_LINUX
     // The popup is placed in coordinates of the screen, which Wayland does not give to its clients.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

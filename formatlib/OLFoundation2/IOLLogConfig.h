@@ -14,7 +14,8 @@ public:
     /// category "orlimo", which a host filters and redirects with Qt's own means.
     ///
     /// May be called on any thread. Returns the number of bytes of the line, or a negative number
-    /// and writes nothing if @p format is null or cannot be formatted.
+    /// and writes nothing if @p format is null or if the compiler's std::vsnprintf cannot format
+    /// it; that of MinGW leaves out characters that it cannot convert.
     static int Printf(const char *format, ...);
 };
 

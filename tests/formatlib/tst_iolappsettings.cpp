@@ -563,7 +563,11 @@ private:
         const QList<Test::Message> messages = recorder.Take();
         QCOMPARE(messages.size(), 1);
         QCOMPARE(messages.first().type, QtWarningMsg);
-        QVERIFY2(messages.first().text.contains(FilePath()), qPrintable(messages.first().text));
+        const QString text = messages.first().text;
+        const QString beginning = QStringLiteral("Failed save settings %1: ").arg(FilePath());
+        QVERIFY2(text.startsWith(beginning), qPrintable(text));
+        const QString reason = text.mid(beginning.size());
+        QVERIFY2(!reason.isEmpty() && reason == reason.trimmed(), qPrintable(text));
     }
 
     std::optional<QTemporaryDir> m_folder;

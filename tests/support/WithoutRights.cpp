@@ -63,6 +63,11 @@ bool WithoutRights::PermissionsHold()
     return geteuid() != root;
 }
 
+bool WithoutRights::ReadOnlyFilesHold()
+{
+    return PermissionsHold();
+}
+
 #else
 
 WithoutRights::WithoutRights() = default;
@@ -71,6 +76,11 @@ WithoutRights::~WithoutRights() = default;
 bool WithoutRights::PermissionsHold()
 {
     return false;
+}
+
+bool WithoutRights::ReadOnlyFilesHold()
+{
+    return true;
 }
 
 #endif

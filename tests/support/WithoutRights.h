@@ -19,6 +19,9 @@ public:
     // not on Windows, whose lists of rights QFile does not change.
     static bool PermissionsHold();
 
+    // Whether a file that QFile makes read-only is read-only now; on Windows it is for everybody.
+    static bool ReadOnlyFilesHold();
+
 private:
     bool m_gaveUp = false;
     std::vector<unsigned> m_groups;

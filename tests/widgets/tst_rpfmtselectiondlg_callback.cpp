@@ -212,20 +212,32 @@ private Q_SLOTS:
     void popupThatIsShownAgainAndLosesTheFocusAtOnceCloses_data()
     {
         QTest::addColumn<Closing>("close");
-        QTest::newRow("choice") << Closing(chooseRow);
-        QTest::newRow("another window") << Closing(activateOtherWindow);
+        QTest::addColumn<bool>("toWidget");
+        QTest::newRow("choice") << Closing(chooseRow) << true;
+        QTest::newRow("another window") << Closing(activateOtherWindow) << true;
+        QTest::newRow("choice, to a window without widgets") << Closing(chooseRow) << false;
+        QTest::newRow("another window, to one without widgets")
+                << Closing(activateOtherWindow) << false;
     }
 
+    // Like a window of another application, one without widgets leaves none of the widgets active.
     void popupThatIsShownAgainAndLosesTheFocusAtOnceCloses()
     {
         QFETCH(const Closing, close);
-        QWidget other;
-        other.show();
+        QFETCH(const bool, toWidget);
+        QWidget widget;
+        QWindow plainWindow;
+        if (toWidget)
+            widget.show();
+        else
+            plainWindow.show();
+        QWindow &other = toWidget ? *widget.windowHandle() : plainWindow;
+        QVERIFY(QTest::qWaitForWindowActive(&other));
         Scene scene;
         Reports reports;
         const auto reopen = [&](auto, auto) {
             scene.popup.ShowPopup(appendingTo(reports), Scene::anchor);
-            other.activateWindow();
+            other.requestActivate();
         };
         scene.popup.ShowPopup(reopen, Scene::anchor);
         close(scene);
