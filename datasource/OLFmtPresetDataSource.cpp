@@ -80,20 +80,15 @@ void OLFmtPresetDataSource::AsyncLoadExternalDataSource(const std::string &path,
             IOLFileProvider::AppendPathExtension(IOLFileProvider::RemovePathExtension(path),
                                                  "icfg");
     m_artworkManager = IOLArtworkImageMgr::MallocArtworkImageMgr(artworkFile, nullptr);
-    // Becomes a member only when a thread waits for it: where there is none, letting go of it waits
-    // for the load, which must not be left to the unloading of the library.
-    std::shared_future result = std::async(std::launch::async, LoadExternalFormatNode, path)
-                                        .share();
-    // The action must find its thread and the result in the members, even where the load is over at
-    // once.
+    m_loadResult = std::async(std::launch::async, LoadExternalFormatNode, path);
+    // The action must find its thread in the member, even where the load is over at once.
     std::promise<void> assigned;
-    m_loadingThread = std::thread(
-            [result, onLoaded = std::move(onLoaded), isAssigned = assigned.get_future()] {
-                isAssigned.wait();
-                result.wait();
-                onLoaded();
-            });
-    m_loadResult = std::move(result);
+    m_loadingThread = std::thread([result = m_loadResult, onLoaded = std::move(onLoaded),
+                                   threadIsAssigned = assigned.get_future()] {
+        threadIsAssigned.wait();
+        result.wait();
+        onLoaded();
+    });
     assigned.set_value();
 }
 

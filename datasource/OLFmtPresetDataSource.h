@@ -57,7 +57,8 @@ private:
     std::shared_ptr<IOLFmtPresetRecentItem> m_defaultItem;
     std::shared_ptr<const IOLArtworkImageMgr> m_artworkManager;
     // Shared, so that the loading thread waits on a reference of its own while the GUI thread
-    // collects the result.
+    // collects the result. That wait also joins the parser's thread, so a load that was waited for
+    // does not keep the system from unloading the library.
     std::shared_future<std::shared_ptr<IOLFormatNode>> m_loadResult;
     std::thread m_loadingThread;
 };
