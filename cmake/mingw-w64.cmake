@@ -14,6 +14,10 @@ endforeach()
 
 # Where Qt for Windows is; scripts/windows-qt makes it.
 if(NOT "$ENV{WINDOWS_QT}" STREQUAL "")
+    if(ORLIMO_WINDOWS_QT AND NOT ORLIMO_WINDOWS_QT STREQUAL "$ENV{WINDOWS_QT}")
+        message(FATAL_ERROR "This build folder is one with the Qt in ${ORLIMO_WINDOWS_QT}; to use that in"
+            " $ENV{WINDOWS_QT}, configure it with --fresh")
+    endif()
     set(ORLIMO_WINDOWS_QT "$ENV{WINDOWS_QT}" CACHE PATH "The folder of Qt for Windows" FORCE)
 endif()
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ORLIMO_WINDOWS_QT)

@@ -28,7 +28,8 @@ def parse(path):
 
 
 def written_trees():
-    """Returns the trees by name. The program keeps its settings in a folder that goes with it."""
+    """Returns the trees by name. The program finds no settings but, on Windows, those of its Wine prefix,
+    and saves none."""
     with tempfile.TemporaryDirectory() as folder:
         output = subprocess.run(
             [*WRITETREES, DESCRIPTION],
