@@ -14,6 +14,7 @@ namespace Bench {
 
 namespace {
 
+constexpr int sizes[] = { 200, 1'000, 10'000, 100'000 };
 constexpr int loadedPresets = 100'000;
 constexpr int openedPresets = 200;
 constexpr auto popup = QLatin1StringView(popupPicker);
@@ -147,7 +148,7 @@ std::string Presets(int count)
 // What the widgets take that the picker has to consist of, measured as the picker is.
 void AddBounds()
 {
-    for (const int presets : { 10'000, 100'000 }) {
+    for (const int presets : sizes) {
         for (const Key &key : keys) {
             AddMeasure("bound: key press that finds " + key.finds
                                + ", bare widgets against a tree view",
@@ -167,7 +168,7 @@ void AddBounds()
 
 void AddPopupMeasures()
 {
-    for (const int presets : { 200, 1'000, 10'000, 100'000 }) {
+    for (const int presets : sizes) {
         const double toReach = presets < 10'000 ? 1 : 0.5;
         for (const Key &key : keys) {
             AddMeasure("key press that finds " + key.finds + ", against a tree view",

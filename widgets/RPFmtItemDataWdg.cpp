@@ -22,10 +22,14 @@ constexpr int textFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
 
 // The form does not have slots connected by name, as the others do: a row has none, and to look for
 // them would take a quarter of the time in which a list is filled.
+//
+// The font is set before there is a parent, whose style sheet would be searched for rules once more
+// for it.
 RPFmtItemDataWdg::RPFmtItemDataWdg(QWidget *parent)
-    : QWidget(parent)
 {
     Ui::RPFmtItemDataWdgClass().setupUi(this);
+    if (parent)
+        setParent(parent, {});
 }
 
 QRect RPFmtItemDataWdg::GetActionGlobalRect() const
