@@ -15,7 +15,7 @@ whole_mark=.whole # in it once everything is there, with the name and version of
 
 # is_whole FOLDER: whether it has a Qt for Windows that was built to the end.
 is_whole() {
-    [[ -s $1/$whole_mark && -e $1/bin/Qt6Widgets.dll && -e $1/plugins/platforms/qwindows.dll ]]
+    [[ ! -e $1/$begun_mark && -s $1/$whole_mark && -e $1/bin/Qt6Widgets.dll && -e $1/plugins/platforms/qwindows.dll ]]
 }
 
 # imports FILE...: the names of the libraries that they load.

@@ -135,7 +135,7 @@ const std::map<std::string, Scenario> &Scenarios()
     return scenarios;
 }
 
-// Runs one scenario in this process, which has the settings folder of the test that started it.
+// Runs one scenario in this process. None saves settings.
 int RunScenario(const std::string &name, const std::string &path)
 {
 #ifdef Q_OS_UNIX

@@ -5,7 +5,7 @@
 
 namespace Test {
 
-// A file name below a folder, which no single code page of Windows can spell.
+// A file name below a folder, which of all code pages only those of the whole of Unicode can spell.
 inline const QString pathBeyondAscii = QStringLiteral("Größe 動画 (ü)/Форматы é.json");
 
 // One way to write the path of a file for a process whose working folder is the given one.
