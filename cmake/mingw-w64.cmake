@@ -14,7 +14,9 @@ endforeach()
 
 # Where Qt for Windows is; scripts/windows-qt makes it.
 if(NOT "$ENV{WINDOWS_QT}" STREQUAL "")
-    if(ORLIMO_WINDOWS_QT AND NOT ORLIMO_WINDOWS_QT STREQUAL "$ENV{WINDOWS_QT}")
+    file(REAL_PATH "$ENV{WINDOWS_QT}" wanted)
+    file(REAL_PATH "${ORLIMO_WINDOWS_QT}" present)
+    if(ORLIMO_WINDOWS_QT AND NOT present STREQUAL wanted)
         message(FATAL_ERROR "This build folder is one with the Qt in ${ORLIMO_WINDOWS_QT}; to use that in"
             " $ENV{WINDOWS_QT}, configure it with --fresh")
     endif()

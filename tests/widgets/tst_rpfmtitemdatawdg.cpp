@@ -9,6 +9,9 @@
 #include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
 
+#include <QApplication>
+#include <QListWidget>
+
 using namespace Orlimo;
 
 namespace {
@@ -73,6 +76,22 @@ private Q_SLOTS:
         QCOMPARE(row.windowTitle(), u"RPFmtItemDataWdg"_s);
         QCOMPARE(row.parentWidget(), &parent);
         QVERIFY(row.children().isEmpty());
+    }
+
+    void theFontOfTheFormReturnsWhenTheStyleSheetOfTheHostGoes()
+    {
+        QListWidget list;
+        list.setStyleSheet(u"QListWidget { border: none; }"_s);
+        auto *row = new RPFmtItemDataWdg(&list);
+        row->preset = Test::MakePreset("HD 720P");
+        list.setItemWidget(new QListWidgetItem(&list), row);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        qApp->setStyleSheet(u"* { font-family: Serif; font-size: 20pt; }"_s);
+        QCOMPARE(row->font().pointSize(), 20);
+        qApp->setStyleSheet({});
+        QCOMPARE(row->font().families(), QStringList { u"Microsoft New Tai Lue"_s });
+        QCOMPARE(row->font().pointSize(), 10);
     }
 
     void theWindowTitleIsTranslatedInTheContextOfTheForm()

@@ -2,7 +2,7 @@
 // what they see, and before the first, behind the loading and behind the unloading whether the
 // library is mapped and whether its resources are registered.
 //
-// unloadinghost PLUGIN DESCRIPTION start|wait|count|popup|translate|unload...
+// unloadinghost PLUGIN DESCRIPTION start|wait|count|popup|translate|text|unload...
 
 #include "LoadedLibrary.h"
 
@@ -106,6 +106,14 @@ void Unload(LoadedLibrary &library)
     EndWithErrorOf(library);
 }
 
+void UnloadBoth(LoadedLibrary &plugin, LoadedLibrary &library)
+{
+    Unload(plugin);
+    Unload(library);
+    SayState("unloaded");
+    QCoreApplication::processEvents();
+}
+
 void Take(const QString &step, LoadedLibrary &library, LoadedLibrary &plugin,
           const QString &description)
 {
@@ -119,13 +127,10 @@ void Take(const QString &step, LoadedLibrary &library, LoadedLibrary &plugin,
         ShowPopup(plugin);
     else if (step == "translate"_L1)
         Translate();
-    if (step != "unload"_L1)
-        return;
-    Unload(plugin);
-    Unload(library);
-    SayState("unloaded");
-    SayTranslation();
-    QCoreApplication::processEvents();
+    else if (step == "text"_L1)
+        SayTranslation();
+    else if (step == "unload"_L1)
+        UnloadBoth(plugin, library);
 }
 
 int Play(const QString &pluginFile, const QString &description, const QStringList &steps)
