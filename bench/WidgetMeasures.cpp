@@ -56,9 +56,8 @@ Comparison MeasureFilling(int rows)
 class BareRow final : public QWidget
 {
 public:
-    BareRow(QIcon icon, QIcon action)
+    explicit BareRow(QIcon icon)
         : m_icon(std::move(icon))
-        , m_action(std::move(action))
     {
     }
 
@@ -70,12 +69,10 @@ protected:
         painter.drawText(NodeTitleBox(rect()), Qt::AlignVCenter | Qt::TextSingleLine, u"MP4"_s);
         painter.drawText(DescriptionBox(rect(), 200), Qt::AlignVCenter | Qt::TextSingleLine,
                          u"H.264, 1920 x 1080"_s);
-        m_action.paint(&painter, RowActionBox(rect()));
     }
 
 private:
     QIcon m_icon;
-    QIcon m_action;
 };
 
 void LoadArtwork()
@@ -108,7 +105,8 @@ Comparison MeasureHoveredRow()
     ours.hovered = true;
     const QIcon icon = IOLFmtPresetDataSource::Shared()->GetArtworkGroup(faceID)->Icon();
     ours.actionIcon = icon;
-    BareRow other(icon, icon);
+    BareRow other(icon);
+    other.setFont(ours.font());
     for (QWidget *widget : { static_cast<QWidget *>(&ours), static_cast<QWidget *>(&other) }) {
         widget->resize(400, OLRowHeight);
         widget->show();
