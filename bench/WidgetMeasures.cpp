@@ -52,7 +52,7 @@ Comparison MeasureFilling(int rows)
             });
 }
 
-// What a row shows, painted without asking for anything.
+// The icon and the texts of a row, painted without asking for anything.
 class BareRow final : public QWidget
 {
 public:

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QListWidget>
+#include <QScopeGuard>
 
 using namespace Orlimo;
 
@@ -87,6 +88,7 @@ private Q_SLOTS:
         list.setItemWidget(new QListWidgetItem(&list), row);
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));
+        const auto reset = qScopeGuard([] { qApp->setStyleSheet({}); });
         qApp->setStyleSheet(u"* { font-family: Serif; font-size: 20pt; }"_s);
         QCOMPARE(row->font().pointSize(), 20);
         qApp->setStyleSheet({});
