@@ -1,6 +1,7 @@
 #include "OLCodecTableReader.h"
 
 #include "OLOptionLayout.h"
+#include "OLText.h"
 
 #include <algorithm>
 #include <set>
@@ -16,7 +17,7 @@ using namespace Qt::StringLiterals;
 constexpr int unknownCount = OLMaximumInteger;
 
 template<class Option>
-void ReadOption(OLJsonPath &path, const QJsonValue &value, Option &option)
+void ReadOption(OLJsonPath &path, const QCborValue &value, Option &option)
 {
     OLJsonMembers members(path, value);
     option.text = members.Text("text"_L1);
@@ -26,13 +27,13 @@ void ReadOption(OLJsonPath &path, const QJsonValue &value, Option &option)
 
 template<class Option>
 OLOptionListPointer<Option> ReadOptionList(std::string id, OLJsonPath &path,
-                                           const QJsonValue &value)
+                                           const QCborValue &value)
 {
     if (!value.isArray())
         path.Fail("an array of options is expected");
     auto list = std::make_shared<OLOptionList<Option>>();
     list->id = std::move(id);
-    const QJsonArray array = value.toArray();
+    const QCborArray array = value.toArray();
     list->options.reserve(static_cast<std::size_t>(array.size()));
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(path, i);
@@ -40,6 +41,14 @@ OLOptionListPointer<Option> ReadOptionList(std::string id, OLJsonPath &path,
         path.Attempt([&] { ReadOption(path, array.at(i), option); });
     }
     return list;
+}
+
+// Ids come sorted, so that nearly all belong at the end.
+template<class Table>
+std::shared_ptr<const Table> &PlaceOf(const std::string &id,
+                                      std::map<std::string, std::shared_ptr<const Table>> &tables)
+{
+    return tables.try_emplace(tables.end(), id)->second;
 }
 
 template<class Table>
@@ -92,13 +101,13 @@ void OLCodecTableReader::ReadTables(OLJsonMembers &document)
     ReadOptionLists<OLQuality>(document);
     ReadOptionLists<OLChannel>(document);
     ReadOptionLists<OLSampleRate>(document);
-    document.ForEach("encoders"_L1, [this](const QString &id, const QJsonValue &value) {
-        OLEncoderPointer &encoder = m_encoders[id.toStdString()];
-        encoder = ReadEncoder(id.toStdString(), OLJsonMembers(m_path, value));
+    document.ForEach("encoders"_L1, [this](std::string id, const QCborValue &value) {
+        OLEncoderPointer &encoder = PlaceOf(id, m_encoders);
+        encoder = ReadEncoder(std::move(id), OLJsonMembers(m_path, value));
     });
-    document.ForEach("encoderSets"_L1, [this](const QString &id, const QJsonValue &value) {
-        OLEncoderSetPointer &set = m_sets[id.toStdString()];
-        set = ReadEncoderSet(id.toStdString(), value);
+    document.ForEach("encoderSets"_L1, [this](std::string id, const QCborValue &value) {
+        OLEncoderSetPointer &set = PlaceOf(id, m_sets);
+        set = ReadEncoderSet(std::move(id), value);
     });
 }
 
@@ -106,11 +115,10 @@ template<class Option>
 void OLCodecTableReader::ReadOptionLists(OLJsonMembers &document)
 {
     auto &lists = std::get<ListsById<Option>>(m_lists);
-    document.ForEach(OLOptionLayout<Option>::lists,
-                     [&](const QString &id, const QJsonValue &value) {
-                         OLOptionListPointer<Option> &list = lists[id.toStdString()];
-                         list = ReadOptionList<Option>(id.toStdString(), m_path, value);
-                     });
+    document.ForEach(OLOptionLayout<Option>::lists, [&](std::string id, const QCborValue &value) {
+        OLOptionListPointer<Option> &list = PlaceOf(id, lists);
+        list = ReadOptionList<Option>(std::move(id), m_path, value);
+    });
 }
 
 OLEncoderPointer OLCodecTableReader::ReadEncoder(std::string id, OLJsonMembers members) const
@@ -148,14 +156,14 @@ bool OLCodecTableReader::TakeOptionList(OLJsonMembers &members, OLEncoder &encod
 }
 
 OLEncoderSetPointer OLCodecTableReader::ReadEncoderSet(std::string id,
-                                                       const QJsonValue &value) const
+                                                       const QCborValue &value) const
 {
     if (!value.isArray())
         m_path.Fail("an array of encoder ids is expected");
     auto set = std::make_shared<OLEncoderSet>();
     set->id = std::move(id);
     OLEncoderPointer known;
-    const QJsonArray array = value.toArray();
+    const QCborArray array = value.toArray();
     set->encoders.reserve(static_cast<std::size_t>(array.size()));
     for (qsizetype i = 0; i < array.size(); ++i) {
         const OLJsonPath::Scope at(m_path, i);
@@ -172,20 +180,20 @@ OLEncoderSetPointer OLCodecTableReader::ReadEncoderSet(std::string id,
 }
 
 // Looks up an encoder of a set; it is of the kind of another one of them, if that is not empty.
-OLEncoderPointer OLCodecTableReader::EncoderOf(const QJsonValue &id,
+OLEncoderPointer OLCodecTableReader::EncoderOf(const QCborValue &id,
                                                const OLEncoderPointer &other) const
 {
     if (!id.isString())
         m_path.Fail("the id of an encoder is expected");
-    const OLEncoderPointer &encoder = Resolve(m_encoders, id.toString().toStdString(), m_path);
+    const OLEncoderPointer &encoder = Resolve(m_encoders, OLToStdString(id.toString()), m_path);
     if (encoder && other && encoder->kind != other->kind)
         m_path.Fail("an encoder set is of one kind");
     return encoder;
 }
 
-OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind) const
+OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind)
 {
-    const QJsonValue value = owner.Optional(OLKindName(kind));
+    const QCborValue value = owner.Optional(OLKindName(kind));
     if (value.isUndefined())
         return {};
     const OLJsonPath::Scope in(m_path, OLKindName(kind));
@@ -198,11 +206,18 @@ OLCodecList OLCodecTableReader::ReadCodecList(OLJsonMembers &owner, OLEncoderKin
     return list;
 }
 
-OLEncoderSetPointer OLCodecTableReader::TakeSet(OLJsonMembers &members, OLEncoderKind kind) const
+OLEncoderSetPointer OLCodecTableReader::TakeSet(OLJsonMembers &members, OLEncoderKind kind)
 {
+    LatestSet &latest = m_latestSets[kind == OLEncoderKind::Video ? 0 : 1];
+    if (members.TakeIfEqual("encoders"_L1, latest.id))
+        return latest.set;
     const OLEncoderSetPointer set = TakeReference(m_sets, members, "encoders"_L1);
-    if (!set || set->encoders.empty() || set->kind == kind)
+    if (!set)
+        return nullptr;
+    if (set->encoders.empty() || set->kind == kind) {
+        latest = { QCborValue(ToQString(set->id)), set };
         return set;
+    }
     m_path.ReportAt("encoders"_L1, "the encoder set is of the other kind");
     return nullptr;
 }
@@ -213,7 +228,8 @@ OLCodecTableReader::Choices OLCodecTableReader::ReadChoices(OLJsonMembers &membe
 {
     Choices choices;
     std::set<int> chosen;
-    members.ForEachElement("choices"_L1, [&](QJsonValueConstRef value) {
+    const QCborArray array = members.Array("choices"_L1);
+    members.ForEachElement("choices"_L1, array, [&](QCborValueConstRef value) {
         choices.push_back(ReadChoice(OLJsonMembers(m_path, value), set, kind));
         const int encoder = choices.back().encoder;
         if (encoder >= 0 && !chosen.insert(encoder).second)

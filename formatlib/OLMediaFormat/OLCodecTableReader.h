@@ -2,14 +2,14 @@
 
 #include "OLCodecList.h"
 
+#include <QCborValue>
 #include <QLatin1StringView>
 #include <QVarLengthArray>
 
+#include <array>
 #include <map>
 #include <string>
 #include <tuple>
-
-class QJsonValue;
 
 namespace Orlimo {
 
@@ -32,10 +32,17 @@ public:
     void ReadTables(OLJsonMembers &document);
 
     // Takes the encoder choices of the given kind out of owner; absent ones give an empty list.
-    OLCodecList ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind) const;
+    OLCodecList ReadCodecList(OLJsonMembers &owner, OLEncoderKind kind);
 
 private:
     using Choices = QVarLengthArray<OLEncoderChoice, 8>;
+
+    // The set that was taken last, which most presets have in common with the one before.
+    struct LatestSet
+    {
+        QCborValue id;
+        OLEncoderSetPointer set;
+    };
 
     template<class Option>
     using ListsById = std::map<std::string, OLOptionListPointer<Option>>;
@@ -46,9 +53,9 @@ private:
     bool TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const;
 
     OLEncoderPointer ReadEncoder(std::string id, OLJsonMembers members) const;
-    OLEncoderSetPointer ReadEncoderSet(std::string id, const QJsonValue &value) const;
-    OLEncoderPointer EncoderOf(const QJsonValue &id, const OLEncoderPointer &other) const;
-    OLEncoderSetPointer TakeSet(OLJsonMembers &members, OLEncoderKind kind) const;
+    OLEncoderSetPointer ReadEncoderSet(std::string id, const QCborValue &value) const;
+    OLEncoderPointer EncoderOf(const QCborValue &id, const OLEncoderPointer &other) const;
+    OLEncoderSetPointer TakeSet(OLJsonMembers &members, OLEncoderKind kind);
     Choices ReadChoices(OLJsonMembers &members, const OLEncoderSet *set, OLEncoderKind kind) const;
     OLEncoderChoice ReadChoice(OLJsonMembers members, const OLEncoderSet *set,
                                OLEncoderKind kind) const;
@@ -59,6 +66,7 @@ private:
             m_lists;
     std::map<std::string, OLEncoderPointer> m_encoders;
     std::map<std::string, OLEncoderSetPointer> m_sets;
+    std::array<LatestSet, 2> m_latestSets; // one of each kind
 };
 
 } // namespace Orlimo

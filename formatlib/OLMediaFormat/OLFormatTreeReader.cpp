@@ -46,9 +46,9 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::Read(const QJsonValue &documen
 
 std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadDocument(const QJsonValue &document)
 {
-    OLJsonMembers members(m_path, document);
+    OLJsonMembers members(m_path, QCborValue::fromJsonValue(document));
     m_tables.ReadTables(members);
-    QJsonValue root;
+    QCborValue root;
     const bool rooted = m_path.Attempt([&] { root = members.Required("root"_L1); });
     members.ExpectNoMore();
     if (!rooted)
@@ -63,11 +63,14 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadNode(OLJsonMembers members
     node->SetName(members.Text("name"_L1));
     node->SetDescription(members.TextOr("description"_L1, ""));
     node->SetFaceID(TakeFaceID(members));
-    node->Reserve(members.ElementCount("presets"_L1), members.ElementCount("children"_L1));
-    members.ForEachElement("presets"_L1, [&](QJsonValueConstRef preset) {
+    const QCborArray presets = members.Array("presets"_L1);
+    const QCborArray children = members.Array("children"_L1);
+    node->Reserve(static_cast<std::size_t>(presets.size()),
+                  static_cast<std::size_t>(children.size()));
+    members.ForEachElement("presets"_L1, presets, [&](QCborValueConstRef preset) {
         node->AddPreset(ReadPreset(OLJsonMembers(m_path, preset)));
     });
-    members.ForEachElement("children"_L1, [&](QJsonValueConstRef value) {
+    members.ForEachElement("children"_L1, children, [&](QCborValueConstRef value) {
         auto child = ReadNode(OLJsonMembers(m_path, value));
         child->SetParent(node);
         node->AppendChild(std::move(child));

@@ -1,5 +1,7 @@
 #include "OLJsonMembers.h"
 
+#include <QJsonValue>
+
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -20,18 +22,30 @@ QString Part(QString name)
     return name.replace(u'~', "~0"_L1).replace(u'/', "~1"_L1);
 }
 
-// Most texts are ASCII, which needs no conversion.
-std::string ToStdString(const QString &text)
+// The least number of its type where the value is no whole number.
+qint64 WholeNumber(QCborValueConstRef value)
 {
-    const auto isAscii = [](QChar c) { return c.unicode() < 0x80; };
-    if (!std::ranges::all_of(text, isAscii))
-        return text.toStdString();
-    std::string ascii(static_cast<std::size_t>(text.size()), '\0');
-    std::ranges::transform(text, ascii.begin(), [](QChar c) { return c.toLatin1(); });
-    return ascii;
+    constexpr qint64 none = std::numeric_limits<qint64>::min();
+    if (value.isDouble())
+        return QJsonValue(value.toDouble()).toInteger(none);
+    return value.toInteger(none);
 }
 
 } // namespace
+
+// Most texts are ASCII, which needs no conversion.
+std::string OLToStdString(const QString &text)
+{
+    std::string ascii(static_cast<std::size_t>(text.size()), '\0');
+    char16_t bits = 0;
+    std::ranges::transform(text, ascii.begin(), [&bits](QChar c) {
+        bits |= c.unicode();
+        return static_cast<char>(c.unicode());
+    });
+    if (bits >= 0x80)
+        return text.toStdString();
+    return ascii;
+}
 
 void OLJsonPath::Fail(std::string reason) const
 {
@@ -64,7 +78,11 @@ std::string OLJsonPath::ToPointer() const
 
 OLJsonMembers::Member OLJsonMembers::Find(QLatin1StringView name)
 {
-    const Member member = m_object.constFind(name);
+    return AreAllTaken() ? m_end : Take(name, m_object.constFind(name));
+}
+
+OLJsonMembers::Member OLJsonMembers::Take(QLatin1StringView name, Member member)
+{
     if (IsThere(member))
         m_taken.append(name);
     return member;
@@ -78,20 +96,29 @@ OLJsonMembers::Member OLJsonMembers::FindRequired(QLatin1StringView name)
     return member;
 }
 
-QJsonValue OLJsonMembers::Required(QLatin1StringView name)
+QCborValue OLJsonMembers::Required(QLatin1StringView name)
 {
-    return *FindRequired(name);
+    return FindRequired(name).value();
 }
 
-QJsonValue OLJsonMembers::Optional(QLatin1StringView name)
+QCborValue OLJsonMembers::Optional(QLatin1StringView name)
 {
     const Member member = Find(name);
-    return IsThere(member) ? QJsonValue(*member) : QJsonValue(QJsonValue::Undefined);
+    return IsThere(member) ? QCborValue(member.value()) : QCborValue();
 }
 
 bool OLJsonMembers::Has(QLatin1StringView name) const
 {
-    return m_object.contains(name);
+    return !AreAllTaken() && m_object.contains(name);
+}
+
+bool OLJsonMembers::TakeIfEqual(QLatin1StringView name, const QCborValue &value)
+{
+    const Member member = m_object.constFind(name);
+    if (!IsThere(member) || member.value() != value)
+        return false;
+    Take(name, member);
+    return true;
 }
 
 std::string OLJsonMembers::RequiredText(QLatin1StringView name)
@@ -103,7 +130,7 @@ std::string OLJsonMembers::TextOf(QLatin1StringView name, Member member)
 {
     if (!member->isString())
         m_path.FailAt(name, "a text is expected");
-    return ToStdString(member->toString());
+    return OLToStdString(member->toString());
 }
 
 std::string OLJsonMembers::Text(QLatin1StringView name)
@@ -125,7 +152,7 @@ std::string OLJsonMembers::TextOr(QLatin1StringView name, const char *otherwise)
 
 bool OLJsonMembers::FlagOr(QLatin1StringView name, bool otherwise)
 {
-    const QJsonValue value = Optional(name);
+    const QCborValue value = Optional(name);
     if (!value.isUndefined() && !value.isBool())
         m_path.ReportAt(name, "true or false is expected");
     return value.toBool(otherwise);
@@ -138,8 +165,7 @@ int OLJsonMembers::RequiredInteger(QLatin1StringView name, int minimum, int maxi
 
 int OLJsonMembers::IntegerOf(QLatin1StringView name, Member member, int minimum, int maximum)
 {
-    constexpr qint64 none = std::numeric_limits<qint64>::min();
-    const qint64 number = member->toInteger(none);
+    const qint64 number = WholeNumber(member.value());
     if (number < minimum || number > maximum) {
         m_path.FailAt(name,
                       "a whole number from " + std::to_string(minimum) + " to "
@@ -167,11 +193,12 @@ int OLJsonMembers::IntegerOr(QLatin1StringView name, int otherwise, int minimum,
 
 void OLJsonMembers::ExpectNoMore() const
 {
-    if (m_taken.size() >= m_object.size())
+    if (AreAllTaken())
         return;
     if (!m_path.Collects())
         m_path.Fail("there is a member that this layout does not know");
-    for (const QString &name : m_object.keys()) {
+    for (const auto &[key, value] : m_object) {
+        const QString name = key.toString();
         if (m_taken.contains(name))
             continue;
         const OLJsonPath::Scope at(m_path, name);
@@ -179,25 +206,24 @@ void OLJsonMembers::ExpectNoMore() const
     }
 }
 
-std::size_t OLJsonMembers::ElementCount(QLatin1StringView name) const
+QCborMap OLJsonMembers::ObjectOrNone(QLatin1StringView name)
 {
-    return static_cast<std::size_t>(m_object.value(name).toArray().size());
-}
-
-QJsonObject OLJsonMembers::ObjectOrNone(QLatin1StringView name)
-{
-    const QJsonValue value = Optional(name);
-    if (!value.isUndefined() && !value.isObject())
+    const Member member = Find(name);
+    if (!IsThere(member))
+        return {};
+    if (!member->isMap())
         m_path.ReportAt(name, "an object is expected");
-    return value.toObject();
+    return member->toMap();
 }
 
-QJsonArray OLJsonMembers::ArrayOrNone(QLatin1StringView name)
+QCborArray OLJsonMembers::Array(QLatin1StringView name)
 {
-    const QJsonValue value = Optional(name);
-    if (!value.isUndefined() && !value.isArray())
+    const Member member = Find(name);
+    if (!IsThere(member))
+        return {};
+    if (!member->isArray())
         m_path.ReportAt(name, "an array is expected");
-    return value.toArray();
+    return member->toArray();
 }
 
 } // namespace Orlimo

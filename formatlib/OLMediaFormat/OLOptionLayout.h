@@ -3,6 +3,8 @@
 #include "OLCodecTables.h"
 #include "OLJsonMembers.h"
 
+#include <QJsonObject>
+
 #include <limits>
 
 namespace Orlimo {
@@ -75,11 +77,11 @@ struct OLOptionLayout<OLQuality>
 
     static void Read(OLJsonMembers &members, OLQuality &option)
     {
-        if (members.Has(constantRateFactor) + members.Has(bitRate) + members.Has(bitDepth) > 1)
-            members.Path().Report("a quality has at most one of crf, bitRate and bitDepth");
         option.constantRateFactor = members.IntegerOr(constantRateFactor, -1, 0, OLMaximumInteger);
         option.bitRate = members.IntegerOr(bitRate, 0, 1, OLMaximumInteger);
         option.bitDepth = members.IntegerOr(bitDepth, 0, 1, OLMaximumInteger);
+        if ((option.constantRateFactor >= 0) + (option.bitRate > 0) + (option.bitDepth > 0) > 1)
+            members.Path().Report("a quality has at most one of crf, bitRate and bitDepth");
     }
 
     static void Write(const OLQuality &option, QJsonObject &object)
@@ -131,10 +133,11 @@ struct OLOptionLayout<OLSampleRate>
 };
 
 // Calls handle.template operator()<Option>() for every type of option that an encoder of the given
-// kind has lists of.
+// kind has lists of. Qualities come first: where an object says anything, it is mostly that.
 template<class Handler>
 void OLForEachOptionType(OLEncoderKind kind, Handler handle)
 {
+    handle.template operator()<OLQuality>();
     if (kind == OLEncoderKind::Video) {
         handle.template operator()<OLResolution>();
         handle.template operator()<OLFrameRate>();
@@ -142,7 +145,6 @@ void OLForEachOptionType(OLEncoderKind kind, Handler handle)
         handle.template operator()<OLChannel>();
         handle.template operator()<OLSampleRate>();
     }
-    handle.template operator()<OLQuality>();
 }
 
 inline QLatin1StringView OLKindName(OLEncoderKind kind)

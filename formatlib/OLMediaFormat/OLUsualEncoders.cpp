@@ -22,8 +22,8 @@ QJsonValue ReadTable()
     return QJsonDocument::fromJson(file.readAll()).object();
 }
 
-OLUsualEncoders::Entry ReadEntry(const OLCodecTableReader &tables, OLJsonPath &path,
-                                 const QJsonValue &value)
+OLUsualEncoders::Entry ReadEntry(OLCodecTableReader &tables, OLJsonPath &path,
+                                 const QCborValue &value)
 {
     OLJsonMembers members(path, value);
     OLUsualEncoders::Entry entry { tables.ReadCodecList(members, OLEncoderKind::Video),
@@ -54,12 +54,11 @@ OLUsualEncoders::OLUsualEncoders()
 void OLUsualEncoders::Read(const QJsonValue &document)
 {
     OLJsonPath path;
-    OLJsonMembers members(path, document);
+    OLJsonMembers members(path, QCborValue::fromJsonValue(document));
     OLCodecTableReader tables(path);
     tables.ReadTables(members);
-    members.ForEach("formats"_L1, [&](const QString &name, const QJsonValue &value) {
-        m_formats.emplace(IOLStringHelper::ToLower(name.toStdString()),
-                          ReadEntry(tables, path, value));
+    members.ForEach("formats"_L1, [&](const std::string &name, const QCborValue &value) {
+        m_formats.emplace(IOLStringHelper::ToLower(name), ReadEntry(tables, path, value));
     });
     m_fallback = ReadEntry(tables, path, members.Required("fallback"_L1));
     members.ExpectNoMore();

@@ -1,3 +1,4 @@
+#include "FormatTreeDescription.h"
 #include "FormatTreeDocument.h"
 #include "MessageRecorder.h"
 #include "TestCase.h"
@@ -50,6 +51,31 @@ QByteArray DocumentedExample()
     const QByteArray text = file.readAll();
     const qsizetype start = text.indexOf("```json\n") + 8;
     return text.sliced(start, text.indexOf("```", start) - start);
+}
+
+// The sample document with another set and with one node that has a preset for each id of a set.
+QJsonValue DocumentOfPresets(const QStringList &sets)
+{
+    QJsonArray presets;
+    for (const QString &set : sets) {
+        const QJsonObject video { { QStringLiteral("encoders"), set } };
+        presets.append(QJsonObject { { QStringLiteral("name"), set },
+                                     { QStringLiteral("video"), video } });
+    }
+    const QJsonObject node { { QStringLiteral("name"), QStringLiteral("Video") },
+                             { QStringLiteral("presets"), presets } };
+    const QJsonValue document = Test::Changed(Test::SampleDocument(),
+                                              { QStringLiteral("encoderSets"),
+                                                QStringLiteral("größer") },
+                                              QJsonArray { QStringLiteral("bare"),
+                                                           QStringLiteral("h264") });
+    return Test::Changed(document, { QStringLiteral("root"), QStringLiteral("children") },
+                         QJsonArray { node });
+}
+
+NodePointer LoadPresets(const QStringList &sets)
+{
+    return Test::Load(DocumentOfPresets(sets));
 }
 
 } // namespace
@@ -173,6 +199,51 @@ private Q_SLOTS:
         QFETCH(const QString, place);
         QFETCH(const int, value);
         QVERIFY(Test::Load(Test::Changed(Test::SampleDocument(), place.split(u'/'), value)));
+    }
+
+    void wholeNumbersMayBeWrittenWithAFractionOrAnExponent_data()
+    {
+        QTest::addColumn<QJsonValue>("width");
+        QTest::newRow("fraction") << Test::Json("1920.0");
+        QTest::newRow("exponent") << Test::Json("1.92e3");
+        QTest::newRow("made as a floating-point number") << QJsonValue(1920.0);
+    }
+
+    void wholeNumbersMayBeWrittenWithAFractionOrAnExponent()
+    {
+        QFETCH(const QJsonValue, width);
+        const QStringList place { QStringLiteral("resolutions"), QStringLiteral("hd"),
+                                  QStringLiteral("1"), QStringLiteral("width") };
+        const NodePointer root = Test::Load(Test::Changed(Test::SampleDocument(), place, width));
+        QVERIFY(root);
+        const auto codec = root->FirstChild()->FirstChild()->FirstFormatPreset()->VideoCodecAt(1);
+        QCOMPARE(codec->ResolutionAt(1)->width, 1920);
+    }
+
+    void aPresetIsReadAlikeWhateverStandsBeforeIt()
+    {
+        const QStringList sets { QStringLiteral("video"),  QStringLiteral("video"),
+                                 QStringLiteral("größer"), QStringLiteral("größer"),
+                                 QStringLiteral("empty"),  QStringLiteral("empty"),
+                                 QStringLiteral("video"),  QStringLiteral("größer") };
+        const NodePointer together = LoadPresets(sets)->FirstChild();
+        QCOMPARE(together->PresetCount(), sets.size());
+        for (qsizetype i = 0; i < sets.size(); ++i) {
+            const NodePointer alone = LoadPresets({ sets.at(i) })->FirstChild();
+            QCOMPARE(Test::Describe(together->PresetAt(static_cast<int>(i)), 0),
+                     Test::Describe(alone->FirstFormatPreset(), 0));
+        }
+    }
+
+    void aSetIsOfItsKindWhateverWasReadBefore()
+    {
+        QVERIFY(LoadPresets({ QStringLiteral("video"), QStringLiteral("video") }));
+        const QString place = QStringLiteral("root/children/0/presets/1/audio");
+        const QJsonValue document = Test::Changed(DocumentOfPresets({ QStringLiteral("video"),
+                                                                      QStringLiteral("video") }),
+                                                  place.split(u'/'),
+                                                  Test::Json("{\"encoders\":\"video\"}"));
+        QVERIFY(!Test::Load(document));
     }
 
     void presetsShareTheirTables()
