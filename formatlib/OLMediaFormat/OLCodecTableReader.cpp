@@ -4,6 +4,7 @@
 #include "OLText.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -62,19 +63,14 @@ const std::shared_ptr<const Table> &Resolve(
     return found->second;
 }
 
-// Empty where the reference has a fault or leads to a table that could not be read.
+// As above, for the id that the member called name holds.
 template<class Table>
-std::shared_ptr<const Table> TakeReference(
-        const std::map<std::string, std::shared_ptr<const Table>> &tables, OLJsonMembers &members,
-        QLatin1StringView name)
+const std::shared_ptr<const Table> &ResolveAt(
+        QLatin1StringView name, const std::map<std::string, std::shared_ptr<const Table>> &tables,
+        const std::string &id, OLJsonPath &path)
 {
-    std::shared_ptr<const Table> table;
-    members.Path().Attempt([&] {
-        const std::string id = members.RequiredText(name);
-        const OLJsonPath::Scope at(members.Path(), name);
-        table = Resolve(tables, id, members.Path());
-    });
-    return table;
+    const OLJsonPath::Scope at(path, name);
+    return Resolve(tables, id, path);
 }
 
 // Takes the index called name, which is inside a list of count entries or −1.
@@ -144,11 +140,14 @@ template<class Option>
 bool OLCodecTableReader::TakeOptionList(OLJsonMembers &members, OLEncoder &encoder) const
 {
     using Layout = OLOptionLayout<Option>;
-    const bool hasList = members.Has(Layout::lists);
     auto &list = std::get<OLOptionListPointer<Option>>(encoder.lists);
-    if (hasList)
-        list = TakeReference(std::get<ListsById<Option>>(m_lists), members, Layout::lists);
-    const bool complete = list || !hasList;
+    bool complete = false;
+    m_path.Attempt([&] {
+        const std::optional<std::string> id = members.OptionalText(Layout::lists);
+        if (id)
+            list = ResolveAt(Layout::lists, std::get<ListsById<Option>>(m_lists), *id, m_path);
+        complete = list || !id;
+    });
     const int count = complete ? encoder.OptionCount<Option>() : unknownCount;
     encoder.defaults[OLOptionSlot<Option>()] = TakeIndex(members, Layout::index, count > 0 ? 0 : -1,
                                                          count);
@@ -211,7 +210,11 @@ OLEncoderSetPointer OLCodecTableReader::TakeSet(OLJsonMembers &members, OLEncode
     LatestSet &latest = m_latestSets[kind == OLEncoderKind::Video ? 0 : 1];
     if (members.TakeIfEqual("encoders"_L1, latest.id))
         return latest.set;
-    const OLEncoderSetPointer set = TakeReference(m_sets, members, "encoders"_L1);
+    OLEncoderSetPointer set;
+    m_path.Attempt([&] {
+        const std::string id = members.RequiredText("encoders"_L1);
+        set = ResolveAt("encoders"_L1, m_sets, id, m_path);
+    });
     if (!set)
         return nullptr;
     if (set->encoders.empty() || set->kind == kind) {

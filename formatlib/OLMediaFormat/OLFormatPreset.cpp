@@ -7,8 +7,9 @@
 
 namespace Orlimo {
 
-OLFormatPreset::OLFormatPreset(Texts texts, int faceID, OLCodecList video, OLCodecList audio)
-    : m_texts(std::move(texts))
+OLFormatPreset::OLFormatPreset(const OLPresetTexts &texts, int faceID, OLCodecList video,
+                               OLCodecList audio)
+    : m_texts(texts)
     , m_video(std::move(video))
     , m_audio(std::move(audio))
     , m_faceID(faceID)
@@ -19,7 +20,7 @@ std::shared_ptr<OLFormatPreset> OLFormatPreset::MakeUsual(const std::string &for
                                                           const std::string &description)
 {
     const OLUsualEncoders::Entry &usual = OLUsualEncoders::Shared().Of(formatName);
-    return std::make_shared<OLFormatPreset>(Texts { formatName, description, formatName }, 0,
+    return std::make_shared<OLFormatPreset>(OLPresetTexts(formatName, description, formatName), 0,
                                             usual.video, usual.audio);
 }
 
@@ -35,22 +36,22 @@ void OLFormatPreset::SetFaceID(int faceID)
 
 std::string OLFormatPreset::Name() const
 {
-    return m_texts.name;
+    return std::string(m_texts.Name());
 }
 
 void OLFormatPreset::SetName(std::string name)
 {
-    m_texts.name = std::move(name);
+    m_texts.SetName(name);
 }
 
 std::string OLFormatPreset::Description() const
 {
-    return m_texts.description;
+    return std::string(m_texts.Description());
 }
 
 std::string OLFormatPreset::FormatName() const
 {
-    return m_texts.formatName;
+    return std::string(m_texts.FormatName());
 }
 
 std::shared_ptr<IOLFormatPreset> OLFormatPreset::Clone() const
@@ -69,8 +70,8 @@ void OLFormatPreset::CopySettingsFrom(std::shared_ptr<IOLFormatPreset> other)
 
 bool OLFormatPreset::IsEqual(std::shared_ptr<const IOLFormatPreset> other) const
 {
-    return other && m_faceID == other->FaceID() && m_texts.name == other->Name()
-            && m_texts.description == other->Description();
+    return other && m_faceID == other->FaceID() && m_texts.Name() == other->Name()
+            && m_texts.Description() == other->Description();
 }
 
 int OLFormatPreset::VideoCodecCount() const

@@ -2,20 +2,14 @@
 
 #include "IOLFormatPreset.h"
 #include "OLCodecList.h"
+#include "OLPresetTexts.h"
 
 namespace Orlimo {
 
 class OLFormatPreset final : public IOLFormatPreset
 {
 public:
-    struct Texts
-    {
-        std::string name;
-        std::string description;
-        std::string formatName;
-    };
-
-    OLFormatPreset(Texts texts, int faceID, OLCodecList video, OLCodecList audio);
+    OLFormatPreset(const OLPresetTexts &texts, int faceID, OLCodecList video, OLCodecList audio);
 
     static std::shared_ptr<OLFormatPreset> MakeUsual(const std::string &formatName,
                                                      const std::string &description);
@@ -44,7 +38,7 @@ public:
     void SetCurrentAudioCodecIndex(int index) override;
 
 private:
-    Texts m_texts;
+    OLPresetTexts m_texts;
     OLCodecList m_video;
     OLCodecList m_audio;
     int m_faceID = 0;

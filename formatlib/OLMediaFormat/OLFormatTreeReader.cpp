@@ -81,16 +81,16 @@ std::shared_ptr<OLFormatNode> OLFormatTreeReader::ReadNode(OLJsonMembers members
 
 std::shared_ptr<OLFormatPreset> OLFormatTreeReader::ReadPreset(OLJsonMembers members)
 {
-    OLFormatPreset::Texts texts { members.Text("name"_L1), members.TextOr("description"_L1, ""),
-                                  members.TextOr("format"_L1, "") };
+    const std::string name = members.Text("name"_L1);
+    const std::string description = members.TextOr("description"_L1, "");
+    const OLPresetTexts texts(name, description, members.TextOr("format"_L1, ""));
     const int faceID = TakeFaceID(members);
     OLCodecList video;
     OLCodecList audio;
     m_path.Attempt([&] { video = m_tables.ReadCodecList(members, OLEncoderKind::Video); });
     m_path.Attempt([&] { audio = m_tables.ReadCodecList(members, OLEncoderKind::Audio); });
     members.ExpectNoMore();
-    return std::make_shared<OLFormatPreset>(std::move(texts), faceID, std::move(video),
-                                            std::move(audio));
+    return std::make_shared<OLFormatPreset>(texts, faceID, std::move(video), std::move(audio));
 }
 
 } // namespace Orlimo

@@ -126,6 +126,12 @@ std::string OLJsonMembers::RequiredText(QLatin1StringView name)
     return TextOf(name, FindRequired(name));
 }
 
+std::optional<std::string> OLJsonMembers::OptionalText(QLatin1StringView name)
+{
+    const Member member = Find(name);
+    return IsThere(member) ? std::optional(TextOf(name, member)) : std::nullopt;
+}
+
 std::string OLJsonMembers::TextOf(QLatin1StringView name, Member member)
 {
     if (!member->isString())

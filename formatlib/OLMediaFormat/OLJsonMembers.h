@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVarLengthArray>
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -98,7 +99,8 @@ public:
     // Whether the member is there with this value. If not, it is still to be asked for.
     bool TakeIfEqual(QLatin1StringView name, const QCborValue &value);
 
-    std::string RequiredText(QLatin1StringView name); // fails in any case
+    std::string RequiredText(QLatin1StringView name);                // fails in any case
+    std::optional<std::string> OptionalText(QLatin1StringView name); // the same
     int RequiredInteger(QLatin1StringView name, int minimum, int maximum);
 
     std::string Text(QLatin1StringView name);
