@@ -3,6 +3,7 @@
 #include "IOLFormatPreset.h"
 
 #include <QPointer>
+#include <QTabWidget>
 
 using namespace Orlimo;
 using Test::MakeCategory;
@@ -39,6 +40,35 @@ private Q_SLOTS:
             QCOMPARE(RowAt(page.NodeList(), i)->node, video->ChildAt(i));
             QVERIFY(RowAt(page.NodeList(), i)->actionIcon.isNull());
             QCOMPARE(RowAt(page.FormatList(), i)->preset, video->FirstChild()->PresetAt(i));
+        }
+    }
+
+    void aPageIsTheSameFilledBeforeOrAfterItBecomesATab()
+    {
+        QTabWidget tabs[2];
+        RPFmtNodeWdg *pages[2];
+        for (const int i : { 0, 1 }) {
+            pages[i] = new RPFmtNodeWdg(&tabs[i]);
+            if (i == 0)
+                pages[i]->SetFormatNode(video, false);
+            tabs[i].insertTab(0, pages[i], u"Video"_s);
+            if (i == 1)
+                pages[i]->SetFormatNode(video, false);
+            tabs[i].resize(700, 400);
+            tabs[i].show();
+        }
+        QCOMPARE(tabs[0].grab().toImage(), tabs[1].grab().toImage());
+        for (const RPFmtNodeWdg *page : pages) {
+            compareCurrentRows(*page, 0, 0);
+            compareLists(*page, { u"MP4"_s, u"AVI"_s, u"MKV"_s },
+                         { u"HD 1080P"_s, u"SD 480P"_s, u"mobile"_s });
+        }
+        for (int i = 0; i < 3; ++i) {
+            const RPFmtItemDataWdg &first = *RowAt(pages[0]->FormatList(), i);
+            const RPFmtItemDataWdg &second = *RowAt(pages[1]->FormatList(), i);
+            QCOMPARE(first.font(), second.font());
+            QCOMPARE(first.geometry(), second.geometry());
+            QCOMPARE(first.textWidth, second.textWidth);
         }
     }
 

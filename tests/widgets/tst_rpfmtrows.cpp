@@ -17,6 +17,44 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Adds a row as a list without FillRows() would: its item, and its widget, whose font is set last.
+template<class SetUpRow>
+void AddRow(QListWidget &list, int index, const SetUpRow &setUpRow)
+{
+    auto *row = new RPFmtItemDataWdg(&list);
+    row->setFont(QFont());
+    row->setFont(QFont({ u"Microsoft New Tai Lue"_s }, 10));
+    row->setMouseTracking(true);
+    setUpRow(*row, index);
+    auto *item = new QListWidgetItem(&list);
+    item->setSizeHint(QSize(0, 53));
+    list.setItemWidget(item, row);
+}
+
+// A list that fill() has filled, in a window of a host.
+class ListInHost
+{
+public:
+    template<class Fill>
+    ListInHost(const QString &hostSheet, const QString &listSheet, const Fill &fill)
+    {
+        m_host.setStyleSheet(hostSheet);
+        m_list->setStyleSheet(listSheet);
+        m_list->setGeometry(0, 0, 400, 300);
+        m_host.resize(m_list->size());
+        fill(*m_list);
+        m_list->setCurrentRow(1);
+        m_host.show();
+    }
+
+    const QListWidget &List() const { return *m_list; }
+    QImage Image() const { return m_list->grab().toImage(); }
+
+private:
+    QWidget m_host;
+    QListWidget *const m_list = new QListWidget(&m_host);
+};
+
 } // namespace
 
 class tst_RPFmtRows : public Test::TestCase
@@ -57,6 +95,43 @@ private Q_SLOTS:
         QList<int> counts;
         FillRows(list, 3, [&](RPFmtItemDataWdg &, int) { counts.append(list.count()); });
         QCOMPARE(counts, QList({ 3, 3, 3 }));
+    }
+
+    void rowsLookLikeThoseThatAreAddedOneByOne_data()
+    {
+        QTest::addColumn<QString>("listSheet");
+        QTest::addColumn<QString>("hostSheet");
+        const QString hover = u"QListWidget::item:selected { background-color: red; }"_s;
+        const QString font = u"QWidget { font-family: Serif; font-size: 20pt; }"_s;
+        QTest::newRow("no style sheet") << QString() << QString();
+        QTest::newRow("sheet of the list") << hover << QString();
+        QTest::newRow("fonts of the host") << QString() << font;
+        QTest::newRow("both") << hover << font;
+        QTest::newRow("sheet of the list for rows")
+                << u"Orlimo--RPFmtItemDataWdg { color: blue; font-size: 15pt; }"_s << QString();
+    }
+
+    void rowsLookLikeThoseThatAreAddedOneByOne()
+    {
+        QFETCH(const QString, listSheet);
+        QFETCH(const QString, hostSheet);
+        const auto setUpRow = [](RPFmtItemDataWdg &row, int index) {
+            row.preset = Test::MakePreset("HD " + std::to_string(index), "H.264");
+        };
+        const ListInHost filled(hostSheet, listSheet,
+                                [&](QListWidget &list) { FillRows(list, 4, setUpRow); });
+        const ListInHost plain(hostSheet, listSheet, [&](QListWidget &list) {
+            for (int i = 0; i < 4; ++i)
+                AddRow(list, i, setUpRow);
+        });
+        QCOMPARE(filled.Image(), plain.Image());
+        for (int i = 0; i < 4; ++i) {
+            const RPFmtItemDataWdg &row = *rowAt(filled.List(), i);
+            const RPFmtItemDataWdg &other = *rowAt(plain.List(), i);
+            QCOMPARE(row.font(), other.font());
+            QCOMPARE(row.palette(), other.palette());
+            QCOMPARE(row.geometry(), other.geometry());
+        }
     }
 
     void everyRowHasTheHeightOfTheLists()
