@@ -220,6 +220,44 @@ private Q_SLOTS:
         QCOMPARE(codec->ResolutionAt(1)->width, 1920);
     }
 
+    void textsAreUtf8_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("ASCII") << QByteArray("HD ~\\u007f") << QByteArray("HD ~\x7f");
+        QTest::newRow("first beyond ASCII")
+                << QByteArray("HD \\u0080") << QByteArray("HD \xC2\x80");
+        QTest::newRow("at the start") << QByteArray("\\u00fcber")
+                                      << QByteArray("\xC3\xBC"
+                                                    "ber");
+        QTest::newRow("three bytes") << QByteArray("\\u20ac") << QByteArray("\xE2\x82\xAC");
+        QTest::newRow("low byte of ASCII") << QByteArray("\\u0141") << QByteArray("\xC5\x81");
+        QTest::newRow("four bytes")
+                << QByteArray("\\ud83c\\udfac") << QByteArray("\xF0\x9F\x8E\xAC");
+        QTest::newRow("zero byte") << QByteArray("a\\u0000b") << QByteArray("a\0b", 3);
+    }
+
+    void textsAreUtf8()
+    {
+        QFETCH(const QByteArray, json);
+        QFETCH(const QByteArray, text);
+        const NodePointer root = Test::Load(
+                Test::Json("{\"version\":1,\"root\":{\"name\":\"R\",\"presets\":[{\"name\":\""
+                           + json + "\"}]}}"));
+        QVERIFY(root);
+        QCOMPARE(QByteArray::fromStdString(root->FirstFormatPreset()->Name()), text);
+    }
+
+    void halfASurrogatePairDoesNotBreakTheEncoding()
+    {
+        const NodePointer root = Test::Load(
+                Test::Json("{\"version\":1,\"root\":{\"name\":\"HD \\ud83c!\"}}"));
+        QVERIFY(root);
+        const QByteArray name = QByteArray::fromStdString(root->Name());
+        QVERIFY(name.isValidUtf8());
+        QVERIFY(name.startsWith("HD ") && name.endsWith('!'));
+    }
+
     void aPresetIsReadAlikeWhateverStandsBeforeIt()
     {
         const QStringList sets { QStringLiteral("video"),  QStringLiteral("video"),
