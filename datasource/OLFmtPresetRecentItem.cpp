@@ -37,23 +37,25 @@ std::shared_ptr<const IOLFormatPreset> OLFmtPresetRecentItem::GetFormatPreset() 
 
 std::string OLFmtPresetRecentItem::GetDisplayName() const
 {
-    if (IsEmpty())
+    if (!m_preset)
         return {};
-    const std::string nodeName = m_node ? m_node->Name() : std::string();
-    const std::string presetName = m_preset->Name();
+    std::string nodeName = m_node ? m_node->Name() : std::string();
+    std::string presetName = m_preset->Name();
     if (presetName.find(nodeName) != std::string::npos)
         return presetName;
-    return nodeName + ' ' + presetName;
+    nodeName.reserve(nodeName.size() + 1 + presetName.size());
+    nodeName.append(" ").append(presetName);
+    return nodeName;
 }
 
 std::string OLFmtPresetRecentItem::GetDescription() const
 {
-    return IsEmpty() || !m_node ? std::string() : m_node->Description();
+    return !m_preset || !m_node ? std::string() : m_node->Description();
 }
 
 int OLFmtPresetRecentItem::GetFaceID() const
 {
-    return IsEmpty() || !m_node ? 0 : m_node->FaceID();
+    return !m_preset || !m_node ? 0 : m_node->FaceID();
 }
 
 std::shared_ptr<IOLFmtPresetRecentItem> OLFmtPresetRecentItem::Clone() const
