@@ -1,6 +1,5 @@
 #include "BarePicker.h"
 
-#include "ui_RPFmtNodeWdg.h"
 #include "ui_RPFmtRecentListWdg.h"
 
 #include "IOLFormatNode.h"
@@ -25,27 +24,7 @@ public:
     }
 };
 
-class NodePage final : public QWidget
-{
-public:
-    explicit NodePage(QWidget *parent)
-        : QWidget(parent)
-    {
-        m_ui.setupUi(this);
-    }
-
-    void Show(PageRows rows)
-    {
-        FillWithBareRows(*m_ui.ListNode, rows.formats);
-        FillWithBareRows(*m_ui.ListFormat, rows.presets);
-    }
-
-private:
-    Ui::RPFmtNodeWdgClass m_ui;
-};
-
-} // namespace
-
+// Empties the list and makes a plain widget for each row, all items first.
 void FillWithBareRows(QListWidget &list, int rows)
 {
     list.clear();
@@ -53,6 +32,20 @@ void FillWithBareRows(QListWidget &list, int rows)
         (new QListWidgetItem(&list))->setSizeHint(QSize(0, OLRowHeight));
     for (int i = 0; i < rows; ++i)
         list.setItemWidget(list.item(i), new QWidget(&list));
+}
+
+} // namespace
+
+BareNodePage::BareNodePage(QWidget *parent)
+    : QWidget(parent)
+{
+    m_ui.setupUi(this);
+}
+
+void BareNodePage::Show(PageRows rows)
+{
+    FillWithBareRows(*m_ui.ListNode, rows.formats);
+    FillWithBareRows(*m_ui.ListFormat, rows.presets);
 }
 
 PageRows RowsOf(const IOLFormatNode &category)
@@ -68,7 +61,7 @@ BarePicker::BarePicker()
     setFixedSize(popupSize);
     m_ui.tabWidget->clear();
     m_ui.tabWidget->addTab(new RecentPage(m_ui.tabWidget), {});
-    m_ui.tabWidget->addTab(new NodePage(m_ui.tabWidget), {});
+    m_ui.tabWidget->addTab(new BareNodePage(m_ui.tabWidget), {});
     m_searchBox = new QLineEdit(m_ui.tabWidget);
     m_searchBox->setGeometry(searchArea);
     connect(m_searchBox, &QLineEdit::textChanged, this, &BarePicker::Search);
@@ -78,7 +71,7 @@ BarePicker::BarePicker()
 void BarePicker::AddCategories(const QList<PageRows> &categories)
 {
     for (const PageRows rows : categories) {
-        auto *page = new NodePage(m_ui.tabWidget);
+        auto *page = new BareNodePage(m_ui.tabWidget);
         m_ui.tabWidget->insertTab(m_ui.tabWidget->count() - 1, page, {});
         page->Show(rows);
     }
@@ -88,7 +81,7 @@ void BarePicker::AddCategories(const QList<PageRows> &categories)
 
 void BarePicker::Search(const QString &text)
 {
-    auto *page = static_cast<NodePage *>(m_ui.tabWidget->currentWidget());
+    auto *page = static_cast<BareNodePage *>(m_ui.tabWidget->currentWidget());
     page->Show(text.isEmpty() ? m_categories.at(m_ui.tabWidget->currentIndex() - 1) : m_found);
 }
 

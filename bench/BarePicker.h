@@ -1,12 +1,11 @@
 #pragma once
 
+#include "ui_RPFmtNodeWdg.h"
 #include "ui_RPFmtSelectionDlg.h"
 
 #include <QLineEdit>
 #include <QList>
 #include <QWidget>
-
-class QListWidget;
 
 namespace Orlimo {
 class IOLFormatNode;
@@ -24,8 +23,17 @@ struct PageRows
 
 PageRows RowsOf(const Orlimo::IOLFormatNode &category);
 
-// Empties the list and makes a plain widget for each row, all items first.
-void FillWithBareRows(QListWidget &list, int rows);
+// The page of a category, with a plain widget for each row.
+class BareNodePage final : public QWidget
+{
+public:
+    explicit BareNodePage(QWidget *parent);
+
+    void Show(PageRows rows);
+
+private:
+    Ui::RPFmtNodeWdgClass m_ui;
+};
 
 // The picker without anything of its own: the forms and, for every row that the picker shows, a
 // plain widget in its place. It has no data, texts or icons, and its rows paint nothing, so what it

@@ -1,22 +1,13 @@
 #pragma once
 
+#include "Stopwatch.h"
+
 #include <algorithm>
-#include <chrono>
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace Bench {
-
-using Nanoseconds = std::chrono::duration<double, std::nano>;
-using Milliseconds = std::chrono::duration<double, std::milli>;
-
-template<class Work>
-Nanoseconds Elapsed(Work work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::steady_clock::now() - start;
-}
 
 inline double Median(std::vector<double> values)
 {
@@ -34,6 +25,7 @@ struct Unit
 
 constexpr Unit ratioUnit { "x", "ms" };
 constexpr Unit millisecondUnit { "ms", "ms" };
+constexpr Unit instructionUnit { "x", "millions of instructions" };
 constexpr Unit byteUnit { "bytes", "bytes" };
 
 // What two ways of doing the same take, and the figure that is to reach its aim.
@@ -49,19 +41,23 @@ struct Comparison
 class Rounds
 {
 public:
-    void Add(double ours, double other)
+    void Add(Cost ours, Cost other)
     {
         m_ours.push_back(ours);
         m_others.push_back(other);
         m_ratios.push_back(ours / other);
     }
 
+    int Count() const { return static_cast<int>(m_ours.size()); }
+    Cost Ours(int round) const { return m_ours[static_cast<std::size_t>(round)]; }
+    Cost Other(int round) const { return m_others[static_cast<std::size_t>(round)]; }
+
     // The medians, and the median of the ratios of each round.
     Comparison Compared() const { return { Median(m_ours), Median(m_others), Median(m_ratios) }; }
 
 private:
-    std::vector<double> m_ours;
-    std::vector<double> m_others;
+    std::vector<Cost> m_ours;
+    std::vector<Cost> m_others;
     std::vector<double> m_ratios;
 };
 
@@ -70,14 +66,20 @@ constexpr int usualRounds = 9;
 // Runs ours() and other() by turns, so that a machine that becomes slower slows both down. Each
 // returns what it has measured.
 template<class Ours, class Other>
-Comparison Compare(Ours ours, Other other, int rounds = usualRounds)
+Rounds RunByTurns(Ours ours, Other other, int rounds)
 {
     Rounds measured;
     for (int i = 0; i < rounds; ++i) {
-        const Milliseconds ourTime = ours();
-        measured.Add(ourTime.count(), Milliseconds(other()).count());
+        const Cost ourCost = ours();
+        measured.Add(ourCost, other());
     }
-    return measured.Compared();
+    return measured;
+}
+
+template<class Ours, class Other>
+Comparison Compare(Ours ours, Other other)
+{
+    return RunByTurns(ours, other, usualRounds).Compared();
 }
 
 } // namespace Bench

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <chrono>
+
 namespace Bench {
 
 namespace {
@@ -35,17 +37,18 @@ bool EventWatch::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-Nanoseconds UntilPainted(const std::function<void()> &action, const Painted &painted)
+Cost UntilPainted(const std::function<void()> &action, const Painted &painted)
 {
     EventWatch watch;
-    const auto start = std::chrono::steady_clock::now();
+    const auto end = std::chrono::steady_clock::now() + longestWait;
+    Stopwatch stopwatch;
     action();
     while (true) {
         watch.RunUntilIdle();
-        const auto elapsed = std::chrono::steady_clock::now() - start;
+        const Cost cost = stopwatch.Read();
         if (painted(watch))
-            return elapsed;
-        if (elapsed > longestWait)
+            return cost;
+        if (std::chrono::steady_clock::now() > end)
             qFatal("a window is not painted");
         QAbstractEventDispatcher::instance()->processEvents(QEventLoop::WaitForMoreEvents);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Comparison.h"
+#include "Stopwatch.h"
 
 #include <QObject>
 #include <QSet>
@@ -30,9 +30,9 @@ private:
 
 using Painted = std::function<bool(const EventWatch &watch)>;
 
-// The time from the call of action until the event loop has nothing left to do and all is painted
-// that painted() asks for.
-Nanoseconds UntilPainted(const std::function<void()> &action, const Painted &painted);
+// What is taken from the call of action until the event loop has nothing left to do and all is
+// painted that painted() asks for.
+Cost UntilPainted(const std::function<void()> &action, const Painted &painted);
 
 void RunUntilIdle();
 

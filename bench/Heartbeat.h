@@ -1,12 +1,13 @@
 #pragma once
 
-#include "Comparison.h"
-
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 
 namespace Bench {
+
+using Nanoseconds = std::chrono::duration<double, std::nano>;
 
 // Beats every millisecond while the GUI thread is free, and reports the time since the last beat.
 class Heartbeat

@@ -1,29 +1,21 @@
 #include "HeapUse.h"
 #include "Measures.h"
+#include "ModelComparisons.h"
 #include "Samples.h"
 
 #include "ArtworkFileBytes.h"
 
-#include "IOLAppSettings.h"
 #include "IOLArtworkImageMgr.h"
 #include "IOLFmtPresetDataSource.h"
 #include "IOLFmtPresetRecentItem.h"
 #include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
-#include "IOLJsonReader.h"
-#include "IOLJsonValue.h"
-#include "IOLStringHelper.h"
-
-#include <benchmark/benchmark.h>
-
-#include <QJsonDocument>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <future>
 #include <memory>
+#include <string>
+#include <vector>
 
 using namespace Orlimo;
 using namespace Qt::StringLiterals;
@@ -34,38 +26,8 @@ namespace {
 
 using NodePointer = std::shared_ptr<IOLFormatNode>;
 using PresetPointer = std::shared_ptr<IOLFormatPreset>;
-using JsonPointer = std::shared_ptr<const IOLJsonValue>;
 
 constexpr int sizes[] = { 200, 1'000, 10'000, 100'000 };
-
-NodePointer Load(const QString &path)
-{
-    const JsonPointer json = IOLJsonReader::ReadJsonFile(path.toStdString(), nullptr);
-    return IOLFormatNode::MallocFormatNode(json);
-}
-
-// Measures on a thread of its own, which uses memory that nobody has used before, as the picker's
-// loading does.
-template<class Measure>
-Comparison OnFreshThread(Measure measure)
-{
-    return std::async(std::launch::async, measure).get();
-}
-
-// Calls visit with the texts that a search looks at.
-template<class Visit>
-void ForEachSearchedText(IOLFormatNode &node, const Visit &visit)
-{
-    for (int i = 0; i < node.PresetCount(); ++i) {
-        visit(node.PresetAt(i)->Name());
-        visit(node.PresetAt(i)->Description());
-    }
-    for (int i = 0; i < node.ChildCount(); ++i) {
-        const NodePointer child = node.ChildAt(i);
-        visit(child->Name());
-        ForEachSearchedText(*child, visit);
-    }
-}
 
 // The bytes of all names and descriptions.
 std::size_t TextSize(const IOLFormatNode &node)
@@ -78,81 +40,15 @@ std::size_t TextSize(const IOLFormatNode &node)
     return size;
 }
 
-Comparison MeasureLoad(const QString &path)
-{
-    const QByteArray bytes = Contents(path);
-    return Compare(
-            [&] {
-                JsonPointer json;
-                NodePointer root;
-                return Elapsed([&] {
-                    json = IOLJsonReader::ReadJsonFile(path.toStdString(), nullptr);
-                    root = IOLFormatNode::MallocFormatNode(json);
-                });
-            },
-            [&] {
-                QJsonDocument document;
-                return Elapsed([&] { document = QJsonDocument::fromJson(bytes); });
-            });
-}
-
 Comparison MeasureMemory(const QString &path, int presets)
 {
-    Load(path); // what the first load of a process keeps is not the tree's
+    LoadedTree(path); // what the first load of a process keeps is not the tree's
     const std::size_t before = HeapUse();
-    const NodePointer root = Load(path);
+    const NodePointer root = LoadedTree(path);
     const auto used = static_cast<double>(HeapUse() - before);
     const auto texts = static_cast<double>(TextSize(*root));
     const double onTop = (used - texts) / presets;
     return { used, texts, onTop, byteUnit };
-}
-
-Comparison MeasureSearch(const QString &path)
-{
-    const NodePointer root = Load(path);
-    std::vector<std::string> texts;
-    ForEachSearchedText(*root, [&](const std::string &text) { texts.push_back(text); });
-    const std::string keyword = "~";
-    const auto dataSource = IOLFmtPresetDataSource::Shared();
-    return Compare(
-            [&] {
-                return Elapsed([&] {
-                    benchmark::DoNotOptimize(dataSource->SearchFormatNode(root, keyword, nullptr));
-                });
-            },
-            [&] {
-                return Elapsed([&] {
-                    bool found = false;
-                    for (const std::string &text : texts)
-                        found |= IOLStringHelper::ToLower(text).find(keyword) != std::string::npos;
-                    benchmark::DoNotOptimize(found);
-                });
-            });
-}
-
-using Visitor = std::function<void(const PresetPointer &)>;
-
-void ForEachPreset(const NodePointer &node, const Visitor &visit)
-{
-    for (int i = 0; i < node->PresetCount(); ++i)
-        visit(node->PresetAt(i));
-    for (int i = 0; i < node->ChildCount(); ++i)
-        ForEachPreset(node->ChildAt(i), visit);
-}
-
-// The data source with every preset of a description of so many chosen once, and no other. All are
-// chosen under one format, so that no two choices differ before their names.
-std::shared_ptr<IOLFmtPresetDataSource> WithRecentChoices(int count)
-{
-    const auto dataSource = IOLFmtPresetDataSource::Shared();
-    for (const auto &item : dataSource->GetRecentItems())
-        dataSource->RemoveRecentItem(item);
-    const NodePointer root = Load(DescriptionPath(count));
-    const NodePointer format = root->FirstChild()->FirstChild();
-    ForEachPreset(root, [&](const PresetPointer &preset) {
-        dataSource->AddRecentPreset(preset, format);
-    });
-    return dataSource;
 }
 
 // Another choice of the same format as the latest.
@@ -165,44 +61,32 @@ std::shared_ptr<IOLFmtPresetRecentItem> NewChoice(const IOLFmtPresetDataSource &
     return IOLFmtPresetRecentItem::MallocFmtPresetRecentItem(preset, latest->GetFormatNode());
 }
 
+// The texts that a comparison makes of each choice: all but its own.
+std::vector<std::string> ComparedTexts(const IOLFmtPresetDataSource &dataSource)
+{
+    std::vector<std::string> texts;
+    for (const auto &item : dataSource.GetRecentItems()) {
+        texts.push_back(item->GetDescription());
+        texts.push_back(item->GetFormatNode()->Name());
+        texts.push_back(item->GetFormatPreset()->Name());
+        texts.push_back(item->GetDisplayName());
+    }
+    return texts;
+}
+
 Comparison MeasureAdding(int choices)
 {
-    const auto dataSource = WithRecentChoices(choices);
+    const auto dataSource = WithRecentChoices(DescriptionPath(choices));
+    const std::vector<std::string> texts = ComparedTexts(*dataSource);
     return Compare(
             [&] {
                 const auto item = NewChoice(*dataSource);
-                return Elapsed([&] { dataSource->AddRecentItem(item); });
+                return CostOf([&] { dataSource->AddRecentItem(item); });
             },
             [&] {
-                const auto items = dataSource->GetRecentItems();
                 std::vector<std::string> copies;
-                copies.reserve(4 * items.size());
-                return Elapsed([&] {
-                    for (const auto &item : items) {
-                        copies.push_back(item->GetFormatNode()->Name());
-                        copies.push_back(item->GetFormatNode()->Description());
-                        copies.push_back(item->GetFormatPreset()->Name());
-                        copies.push_back(item->GetFormatPreset()->Description());
-                    }
-                });
+                return CostOf([&] { copies = texts; });
             });
-}
-
-Comparison MeasureSaving(int choices)
-{
-    const auto dataSource = WithRecentChoices(choices);
-    dataSource->SaveRecentPresets();
-    const QByteArray bytes = QByteArray::fromStdString(
-            IOLAppSettings::Shared()->Value("recent_format_preset"));
-    return Compare([&] { return Elapsed([&] { dataSource->SaveRecentPresets(); }); },
-                   [&] {
-                       return Elapsed([&] {
-                           QSaveFile file(Folder().filePath(u"saved"_s));
-                           const bool saved = file.open(QIODevice::WriteOnly)
-                                   && file.write(bytes) == bytes.size() && file.commit();
-                           benchmark::DoNotOptimize(saved);
-                       });
-                   });
 }
 
 // A shaded disc, which takes as many bytes as an icon.
@@ -232,14 +116,14 @@ Comparison MeasureArtwork(int faces)
     return Compare(
             [&] {
                 std::shared_ptr<const IOLArtworkImageMgr> artwork;
-                return Elapsed([&] {
+                return CostOf([&] {
                     artwork = IOLArtworkImageMgr::MallocArtworkImageMgr(path.toStdString(),
                                                                         nullptr);
                 });
             },
             [&] {
                 QByteArray bytes;
-                return Elapsed([&] { bytes = Contents(path); });
+                return CostOf([&] { bytes = Contents(path); });
             });
 }
 
@@ -249,21 +133,19 @@ void AddModelMeasures()
 {
     for (const int presets : sizes) {
         const std::string size = std::to_string(presets) + " presets";
-        AddMeasure("load, against QJsonDocument::fromJson", size, 1.5, [=] {
-            return OnFreshThread([path = DescriptionPath(presets)] { return MeasureLoad(path); });
-        });
+        AddMeasure("load, against QJsonDocument::fromJson", size, 1.5,
+                   [=] { return CompareLoads(DescriptionPath(presets), usualRounds).Compared(); });
         AddMeasure("bytes of a loaded preset beside its texts", size, 400,
                    [=] { return MeasureMemory(DescriptionPath(presets), presets); });
-        AddMeasure("search for nothing, against one flat array", size, 4, [=] {
-            return OnFreshThread([path = DescriptionPath(presets)] { return MeasureSearch(path); });
-        });
+        AddMeasure("search for nothing, against one flat array", size, 4,
+                   [=] { return CompareFinds(DescriptionPath(presets), usualRounds).Compared(); });
     }
     for (const int choices : { 1'000, 10'000 }) {
         const std::string size = std::to_string(choices) + " choices";
-        AddMeasure("add a recent choice, against copying the texts of all", size, 3,
+        AddMeasure("add a recent choice, against copying the compared texts", size, 3,
                    [=] { return MeasureAdding(choices); });
         AddMeasure("save recent choices, against QSaveFile", size, 3,
-                   [=] { return MeasureSaving(choices); });
+                   [=] { return CompareSaves(DescriptionPath(choices), usualRounds).Compared(); });
     }
     AddMeasure("open artwork, against reading the file", "200 x 5 images", 3,
                [] { return MeasureArtwork(200); });

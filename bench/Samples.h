@@ -14,5 +14,11 @@ QByteArray Contents(const QString &path);
 
 // The path of the generated description of so many presets, made when it is first asked for.
 QString DescriptionPath(int presets);
+// The same, with its artwork beside it.
+QString DescriptionWithArtwork(int presets);
+
+// Writes the generated description of so many presets and its artwork into the folder, as
+// PRESETS.json and PRESETS.icfg. Makes the folder where there is none.
+void WriteDescription(const QString &folder, int presets);
 
 } // namespace Bench

@@ -2,6 +2,8 @@
 
 #include "EventWatch.h"
 #include "Heartbeat.h"
+#include "Measures.h"
+#include "ModelComparisons.h"
 #include "Picker.h"
 #include "StockPicker.h"
 
@@ -9,6 +11,7 @@
 #include "IOLFormatNode.h"
 #include "IOLMediaFormatPopup.h"
 
+#include <QAnimationDriver>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -21,6 +24,7 @@
 #include <cstdio>
 #include <functional>
 #include <initializer_list>
+#include <iterator>
 #include <memory>
 
 using namespace Orlimo;
@@ -30,13 +34,20 @@ namespace Bench {
 namespace {
 
 constexpr std::chrono::milliseconds fadeOfClearButton { 200 };
+constexpr std::chrono::milliseconds timeBeforeKey { 60 };
 constexpr std::chrono::milliseconds settling { 50 };
 
-void PrintRound(std::initializer_list<Nanoseconds> figures)
+void PrintRound(std::initializer_list<Cost> figures)
 {
-    for (const Nanoseconds figure : figures)
-        std::printf("%.9g ", Milliseconds(figure).count());
+    for (const Cost figure : figures)
+        std::printf("%.9g ", figure);
     std::printf("\n");
+}
+
+void PrintRounds(const Rounds &rounds)
+{
+    for (int i = 0; i < rounds.Count(); ++i)
+        PrintRound({ rounds.Ours(i), rounds.Other(i) });
 }
 
 void Load(const QString &path)
@@ -58,9 +69,9 @@ bool IsPainted(const EventWatch &watch, const QListWidget &list)
     return watch.WasPainted(list.viewport());
 }
 
-bool AreRowsPainted(const EventWatch &watch, const Picker &picker)
+bool AreRowsPainted(const EventWatch &watch, const QTabWidget &tabs)
 {
-    const auto lists = picker.Tabs()->currentWidget()->findChildren<QListWidget *>(
+    const auto lists = tabs.currentWidget()->findChildren<QListWidget *>(
             Qt::FindDirectChildrenOnly);
     return std::ranges::all_of(lists,
                                [&](const QListWidget *list) { return IsPainted(watch, *list); });
@@ -68,7 +79,7 @@ bool AreRowsPainted(const EventWatch &watch, const Picker &picker)
 
 bool IsPickerPainted(const EventWatch &watch, const Picker &picker)
 {
-    return watch.WasPainted(picker.Window()) && AreRowsPainted(watch, picker);
+    return watch.WasPainted(picker.Window()) && AreRowsPainted(watch, *picker.Tabs());
 }
 
 // A window as a host has one open before it asks for a popup, so that neither side of a comparison
@@ -129,38 +140,39 @@ void EmptyAndHide(QLineEdit &searchBox)
     Hide(*searchBox.window());
 }
 
-Nanoseconds SearchInPicker(Picker &picker, const QString &key)
+Cost SearchInPicker(Picker &picker, const QString &key)
 {
     picker.Show();
     RunUntilIdle();
     picker.ExpectSearch(key);
     QLineEdit *searchBox = picker.SearchBox();
     Focus(*searchBox);
-    RunFor(fadeOfClearButton);
-    const Nanoseconds time = UntilPainted([&] { PressKey(key); },
-                                          [&](const EventWatch &watch) {
-                                              return AreRowsPainted(watch, picker);
-                                          });
+    RunFor(timeBeforeKey);
+    const Cost cost = UntilPainted([&] { PressKey(key); },
+                                   [&](const EventWatch &watch) {
+                                       return AreRowsPainted(watch, *picker.Tabs());
+                                   });
     EmptyAndHide(*searchBox);
-    return time;
+    return cost;
 }
 
-// The tree is not painted where the search finds all of it, only the box.
-Nanoseconds SearchInStockPicker(StockPicker &picker, const QString &key)
+// The picker's search, which came before, fades out first. The tree is not painted where the search
+// finds all of it, only the box.
+Cost SearchInStockPicker(StockPicker &picker, const QString &key)
 {
     Show(picker);
     RunUntilIdle();
     Focus(*picker.SearchBox());
     RunFor(fadeOfClearButton);
-    const Nanoseconds time = UntilPainted([&] { PressKey(key); },
-                                          [&](const EventWatch &watch) {
-                                              return watch.WasPainted(picker.SearchBox());
-                                          });
+    const Cost cost = UntilPainted([&] { PressKey(key); },
+                                   [&](const EventWatch &watch) {
+                                       return watch.WasPainted(picker.SearchBox());
+                                   });
     EmptyAndHide(*picker.SearchBox());
-    return time;
+    return cost;
 }
 
-void RunSearch(const QString &kind, const QString &path, const QString &key)
+void RunSearch(const QString &kind, const QString &path, const QString &key, int rounds)
 {
     Load(path);
     const auto picker = Picker::Of(kind);
@@ -168,23 +180,23 @@ void RunSearch(const QString &kind, const QString &path, const QString &key)
     const int category = picker->Tabs()->currentIndex() - 1; // after the recent choices
     const auto root = IOLFmtPresetDataSource::Shared()->GetDefaultFormatNode();
     StockPicker stockPicker(*root->ChildAt(category));
-    for (int round = 0; round < usualRounds; ++round) {
-        const Nanoseconds ours = SearchInPicker(*picker, key);
-        PrintRound({ ours, SearchInStockPicker(stockPicker, key) });
-    }
+    SearchInPicker(*picker, key);
+    SearchInStockPicker(stockPicker, key);
+    PrintRounds(RunByTurns([&] { return SearchInPicker(*picker, key); },
+                           [&] { return SearchInStockPicker(stockPicker, key); }, rounds));
 }
 
-Nanoseconds Open(Picker &picker)
+Cost Open(Picker &picker)
 {
-    const Nanoseconds time = UntilPainted([&] { picker.Show(); },
-                                          [&](const EventWatch &watch) {
-                                              return IsPickerPainted(watch, picker);
-                                          });
+    const Cost cost = UntilPainted([&] { picker.Show(); },
+                                   [&](const EventWatch &watch) {
+                                       return IsPickerPainted(watch, picker);
+                                   });
     Hide(*picker.Window());
-    return time;
+    return cost;
 }
 
-Nanoseconds OpenNewWindow()
+Cost OpenNewWindow()
 {
     std::unique_ptr<TabWindow> window;
     return UntilPainted(
@@ -201,25 +213,25 @@ void RunOpening(const QString &kind, const QString &path, bool windowFirst)
     const auto picker = Picker::Of(kind);
     const HostWindow host;
     if (windowFirst) {
-        const Nanoseconds other = OpenNewWindow();
+        const Cost other = OpenNewWindow();
         PrintRound({ Open(*picker), other });
     } else {
-        const Nanoseconds ours = Open(*picker);
+        const Cost ours = Open(*picker);
         PrintRound({ ours, OpenNewWindow() });
     }
 }
 
-Nanoseconds Reopen(QWidget &window)
+Cost Reopen(QWidget &window)
 {
-    const Nanoseconds time = UntilPainted([&] { Show(window); },
-                                          [&](const EventWatch &watch) {
-                                              return watch.WasPainted(&window);
-                                          });
+    const Cost cost = UntilPainted([&] { Show(window); },
+                                   [&](const EventWatch &watch) {
+                                       return watch.WasPainted(&window);
+                                   });
     Hide(window);
-    return time;
+    return cost;
 }
 
-void RunReopening(const QString &kind, const QString &path)
+void RunReopening(const QString &kind, const QString &path, int rounds)
 {
     Load(path);
     const auto picker = Picker::Of(kind);
@@ -227,10 +239,7 @@ void RunReopening(const QString &kind, const QString &path)
     TabWindow window;
     Open(*picker);
     Reopen(window);
-    for (int round = 0; round < usualRounds; ++round) {
-        const Nanoseconds ours = Open(*picker);
-        PrintRound({ ours, Reopen(window) });
-    }
+    PrintRounds(RunByTurns([&] { return Open(*picker); }, [&] { return Reopen(window); }, rounds));
 }
 
 // The longest stalls of the GUI thread: the one in which tabs were inserted, and of the others.
@@ -264,23 +273,44 @@ private:
     Heartbeat m_heartbeat;
 };
 
+Cost InMilliseconds(Nanoseconds time)
+{
+    return std::chrono::duration<Cost, std::milli>(time).count();
+}
+
+struct LongestStalls
+{
+    Nanoseconds besideInsertion;
+    Nanoseconds atInsertion;
+};
+
+LongestStalls StallsUntilInserted(const QTabWidget &tabs,
+                                  const std::function<void()> &startInsertion)
+{
+    const Stalls stalls(tabs);
+    startInsertion();
+    while (!stalls.HasInsertion())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    RunFor(settling);
+    return { stalls.Longest(), stalls.AtInsertion() };
+}
+
+Nanoseconds LongestStallIn(const QTabWidget &tabs, std::chrono::milliseconds time)
+{
+    const Stalls stalls(tabs);
+    RunFor(time);
+    return stalls.Longest();
+}
+
 void PrintStalls(const QTabWidget &tabs, const std::function<void()> &startInsertion)
 {
     RunFor(settling);
-    Nanoseconds longest {};
-    Nanoseconds atInsertion {};
-    const Nanoseconds duration = Elapsed([&] {
-        const Stalls stalls(tabs);
-        startInsertion();
-        while (!stalls.HasInsertion())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        RunFor(settling);
-        longest = stalls.Longest();
-        atInsertion = stalls.AtInsertion();
-    });
-    const Stalls withoutLoad(tabs);
-    RunFor(std::chrono::duration_cast<std::chrono::milliseconds>(duration));
-    PrintRound({ longest, atInsertion, withoutLoad.Longest() });
+    const auto start = std::chrono::steady_clock::now();
+    const LongestStalls stalls = StallsUntilInserted(tabs, startInsertion);
+    const auto time = std::chrono::duration_cast<std::chrono::milliseconds>(
+            std::chrono::steady_clock::now() - start);
+    PrintRound({ InMilliseconds(stalls.besideInsertion), InMilliseconds(stalls.atInsertion),
+                 InMilliseconds(LongestStallIn(tabs, time)) });
 }
 
 void RunLoadingUnderPopup(const QString &path)
@@ -310,23 +340,107 @@ void RunLoading(const QString &kind, const QString &path)
         RunBareInsertion(path);
 }
 
+// The categories wait in the event loop to be taken up, as the load is over.
+Cost CostOfInsertionIntoPopup(const QString &path)
+{
+    const auto popup = Picker::Of(QLatin1StringView(popupPicker));
+    popup->Show();
+    RunUntilIdle();
+    Load(path);
+    return UntilPainted([] {},
+                        [&](const EventWatch &watch) {
+                            return AreRowsPainted(watch, *popup->Tabs());
+                        });
+}
+
+Cost CostOfBareInsertion(const QString &path)
+{
+    Load(path);
+    const QList<PageRows> categories = CategoryRows();
+    BarePicker picker;
+    Show(picker);
+    RunUntilIdle();
+    return UntilPainted([&] { picker.AddCategories(categories); },
+                        [&](const EventWatch &watch) {
+                            return AreRowsPainted(watch, *picker.Tabs());
+                        });
+}
+
+void RunInsertion(const QString &kind, const QString &path)
+{
+    const bool ofPopup = kind == QLatin1StringView(popupPicker);
+    PrintRound({ ofPopup ? CostOfInsertionIntoPopup(path) : CostOfBareInsertion(path) });
+}
+
+// What moves by itself goes on while a counted program runs, many times slower than usual, and
+// would be counted.
+void StopAnimations()
+{
+    (new QAnimationDriver)->install(); // for the rest of the process
+    QApplication::setCursorFlashTime(0);
+}
+
+void PrepareWindows()
+{
+    NeedApplication();
+    if (IsCounting())
+        StopAnimations();
+}
+
+struct Scene
+{
+    const char *name;
+    qsizetype arguments;
+    bool hasWindows;
+    void (*run)(const QStringList &arguments);
+};
+
+const Scene scenes[] = {
+    { searchScene, 4, true,
+      [](const QStringList &arguments) {
+          RunSearch(arguments[0], arguments[1], arguments[2], arguments[3].toInt());
+      } },
+    { openingScene, 3, true,
+      [](const QStringList &arguments) {
+          RunOpening(arguments[0], arguments[1], arguments[2] == QLatin1StringView("window"));
+      } },
+    { reopeningScene, 3, true,
+      [](const QStringList &arguments) {
+          RunReopening(arguments[0], arguments[1], arguments[2].toInt());
+      } },
+    { loadingScene, 2, true,
+      [](const QStringList &arguments) { RunLoading(arguments[0], arguments[1]); } },
+    { insertionScene, 2, true,
+      [](const QStringList &arguments) { RunInsertion(arguments[0], arguments[1]); } },
+    { loadScene, 2, false,
+      [](const QStringList &arguments) {
+          PrintRounds(CompareLoads(arguments[0], arguments[1].toInt()));
+      } },
+    { findScene, 2, false,
+      [](const QStringList &arguments) {
+          PrintRounds(CompareFinds(arguments[0], arguments[1].toInt()));
+      } },
+    { saveScene, 2, false,
+      [](const QStringList &arguments) {
+          PrintRounds(CompareSaves(arguments[0], arguments[1].toInt()));
+      } },
+};
+
 } // namespace
 
 void RunScene(const QStringList &arguments)
 {
-    const QString &scene = arguments.at(0);
-    const QString &picker = arguments.at(1);
-    const QString &path = arguments.at(2);
-    if (scene == QLatin1StringView(searchScene))
-        RunSearch(picker, path, arguments.at(3));
-    else if (scene == QLatin1StringView(openingScene))
-        RunOpening(picker, path, arguments.at(3) == QLatin1StringView("window"));
-    else if (scene == QLatin1StringView(reopeningScene))
-        RunReopening(picker, path);
-    else if (scene == QLatin1StringView(loadingScene))
-        RunLoading(picker, path);
-    else
-        qFatal("there is no scene %s", qUtf8Printable(scene));
+    const QString name = arguments.value(0);
+    const auto *scene = std::ranges::find(scenes, name, [](const Scene &listed) {
+        return QString::fromLatin1(listed.name);
+    });
+    if (scene == std::end(scenes))
+        qFatal("there is no scene %s", qUtf8Printable(name));
+    if (arguments.size() != scene->arguments + 1)
+        qFatal("the scene %s takes %d arguments", scene->name, int(scene->arguments));
+    if (scene->hasWindows)
+        PrepareWindows();
+    scene->run(arguments.mid(1));
 }
 
 } // namespace Bench

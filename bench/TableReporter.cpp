@@ -24,8 +24,8 @@ void PrintAim(const benchmark::UserCounters &counters, const std::string &unit)
 
 bool TableReporter::ReportContext(const Context &)
 {
-    std::printf("%-*s %10s %10s %8s %8s %s\n", nameWidth, "", "ours", "against", "figure",
-                "to reach", "in");
+    std::printf("%-*s %10s %10s %8s %8s %s\n", nameWidth, m_heading.c_str(), "ours", "against",
+                "figure", "to reach", "in");
     return true;
 }
 

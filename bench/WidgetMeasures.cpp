@@ -6,15 +6,17 @@
 
 #include "IOLArtworkImageGroup.h"
 #include "IOLFmtPresetDataSource.h"
+#include "IOLFormatNode.h"
 #include "IOLFormatPreset.h"
 #include "RPFmtItemDataWdg.h"
 #include "RPFmtItemGeometry.h"
 #include "RPFmtNodeWdg.h"
-#include "RPFmtRows.h"
 
 #include <QCoreApplication>
-#include <QListWidget>
 #include <QPainter>
+
+#include <memory>
+#include <string>
 
 using namespace Orlimo;
 using namespace Qt::StringLiterals;
@@ -22,6 +24,8 @@ using namespace Qt::StringLiterals;
 namespace Bench {
 
 namespace {
+
+using NodePointer = std::shared_ptr<IOLFormatNode>;
 
 constexpr int faceID = 1001;
 
@@ -32,24 +36,53 @@ std::shared_ptr<IOLFormatPreset> SamplePreset()
     return preset;
 }
 
+NodePointer EmptyNode()
+{
+    return IOLFormatNode::MallocFormatNode(NodePointer());
+}
+
+// A category of one format with so many presets.
+NodePointer Category(int presets)
+{
+    const NodePointer format = EmptyNode();
+    format->SetName("MP4");
+    for (int i = 1; i <= presets; ++i) {
+        const auto preset = SamplePreset();
+        preset->SetName("MP4 #" + std::to_string(i));
+        format->AddPreset(preset);
+    }
+    const NodePointer category = EmptyNode();
+    category->AppendChild(format);
+    return category;
+}
+
+Cost CostOfFilling(const NodePointer &category)
+{
+    RPFmtNodeWdg page(nullptr);
+    return CostOf([&] { page.SetFormatNode(category, false); });
+}
+
+Cost CostOfBareFilling(PageRows rows)
+{
+    BareNodePage page(nullptr);
+    return CostOf([&] { page.Show(rows); });
+}
+
 Comparison MeasureFilling(int rows)
 {
     NeedApplication();
-    const QString styleSheet = RPFmtNodeWdg(nullptr).FormatList()->styleSheet();
-    const auto preset = SamplePreset();
-    return Compare(
-            [&] {
-                QListWidget list;
-                list.setStyleSheet(styleSheet);
-                return Elapsed([&] {
-                    FillRows(list, rows, [&](RPFmtItemDataWdg &row, int) { row.preset = preset; });
-                });
-            },
-            [&] {
-                QListWidget list;
-                list.setStyleSheet(styleSheet);
-                return Elapsed([&] { FillWithBareRows(list, rows); });
-            });
+    const NodePointer category = Category(rows);
+    return Compare([&] { return CostOfFilling(category); },
+                   [&] { return CostOfBareFilling(RowsOf(*category)); });
+}
+
+// How many times as long it takes to fill a list as to fill a shorter one.
+Comparison MeasureFillingGrowth(int rows, int fewerRows)
+{
+    NeedApplication();
+    const NodePointer category = Category(rows);
+    const NodePointer smaller = Category(fewerRows);
+    return Compare([&] { return CostOfFilling(category); }, [&] { return CostOfFilling(smaller); });
 }
 
 // The icon and the texts of a row, painted without asking for anything.
@@ -87,10 +120,10 @@ void LoadArtwork()
     dataSource->WaitForLoadingComplete();
 }
 
-Nanoseconds Repaint(QWidget &widget)
+Cost Repaint(QWidget &widget)
 {
     constexpr int times = 200;
-    return Elapsed([&] {
+    return CostOf([&] {
         for (int i = 0; i < times; ++i)
             widget.repaint();
     });
@@ -123,6 +156,8 @@ void AddWidgetMeasures()
         AddMeasure("fill a list, against bare widgets", std::to_string(rows) + " rows", 2,
                    [=] { return MeasureFilling(rows); });
     }
+    AddMeasure("fill a list, against that of 500", "5000 rows", mostGrowth,
+               [] { return MeasureFillingGrowth(5'000, 500); });
     AddMeasure("repaint a hovered row, against a bare painter", "200 times", 1.5,
                MeasureHoveredRow);
 }

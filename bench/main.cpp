@@ -1,4 +1,5 @@
 #include "Measures.h"
+#include "Samples.h"
 #include "Scenes.h"
 #include "TableReporter.h"
 
@@ -7,6 +8,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QStringList>
 
 #include <optional>
 
@@ -21,6 +23,50 @@ double Seconds(const Comparison &comparison)
 }
 
 std::function<void()> makeApplication;
+
+constexpr char writeArgument[] = "--write"; // the folder, and the numbers of presets
+constexpr char countArgument[] = "--count";
+
+QStringList ArgumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+void WriteDescriptions(const QStringList &arguments)
+{
+    for (const QString &presets : arguments.mid(1))
+        WriteDescription(arguments.constFirst(), presets.toInt());
+}
+
+void PrintTable(const std::string &unitOfSides)
+{
+    benchmark::AddCustomContext("label",
+                                "the unit of figure and to_reach; ours and against are in "
+                                        + unitOfSides
+                                        + " where it is x, and otherwise in this unit");
+    TableReporter table("in " + unitOfSides + " where the figure is x");
+    benchmark::RunSpecifiedBenchmarks(&table);
+}
+
+void PrintMeasures()
+{
+    AddModelMeasures();
+    AddWidgetMeasures();
+    AddPopupMeasures();
+    AddGrowthMeasures();
+    PrintTable(std::string(ratioUnit.sides));
+}
+
+void PrintCounts()
+{
+    if (!CanCount())
+        qFatal("built without valgrind/callgrind.h");
+    AddCounts();
+    PrintTable(std::string(instructionUnit.sides));
+}
 
 } // namespace
 
@@ -62,18 +108,15 @@ int main(int argc, char **argv)
     const Test::IsolatedSettings settings;
     std::optional<QApplication> application;
     Bench::makeApplication = [&] { application.emplace(argc, argv); };
-    if (argc > 1 && QByteArrayView(argv[1]) == Bench::sceneArgument) {
-        Bench::NeedApplication();
-        Bench::RunScene(QApplication::arguments().mid(2));
-        return 0;
-    }
-    Bench::AddModelMeasures();
-    Bench::AddWidgetMeasures();
-    Bench::AddPopupMeasures();
-    benchmark::AddCustomContext("label",
-                                "the unit of figure and to_reach; ours and against are in "
-                                "ms where it is x, and otherwise in this unit");
-    Bench::TableReporter table;
-    benchmark::RunSpecifiedBenchmarks(&table);
+    const QStringList arguments = Bench::ArgumentsOf(argc, argv);
+    const QString command = arguments.value(0);
+    if (command == QLatin1StringView(Bench::sceneArgument))
+        Bench::RunScene(arguments.mid(1));
+    else if (command == QLatin1StringView(Bench::writeArgument))
+        Bench::WriteDescriptions(arguments.mid(1));
+    else if (command == QLatin1StringView(Bench::countArgument))
+        Bench::PrintCounts();
+    else
+        Bench::PrintMeasures();
     return 0;
 }

@@ -1,0 +1,46 @@
+#include "Measures.h"
+#include "Samples.h"
+#include "Scenes.h"
+#include "Turns.h"
+
+namespace Bench {
+
+namespace {
+
+constexpr int many = 100'000;
+constexpr int fewer = 10'000;
+
+// How many times as long a scene takes with many presets as with fewer.
+Comparison MeasureGrowth(const std::function<QStringList(int presets)> &scene)
+{
+    Turns turns(
+            fewTurns, [&](int) { return scene(many); }, [&](int) { return scene(fewer); });
+    Rounds compared;
+    for (qsizetype i = 0; i < turns.First().size(); ++i)
+        compared.Add(turns.First().at(i).at(0), turns.Second().at(i).at(0));
+    return compared.Compared();
+}
+
+QStringList LoadScene(int presets)
+{
+    return { QLatin1StringView(loadScene), DescriptionPath(presets), RoundsOfTurn() };
+}
+
+QStringList SearchScene(int presets)
+{
+    return { QLatin1StringView(searchScene), QLatin1StringView(popupPicker),
+             DescriptionWithArtwork(presets), QLatin1StringView(keys[0].text), RoundsOfTurn() };
+}
+
+} // namespace
+
+void AddGrowthMeasures()
+{
+    const std::string size = std::to_string(many) + " presets";
+    const std::string against = ", against that of " + std::to_string(fewer);
+    AddMeasure("load" + against, size, mostGrowth, [] { return MeasureGrowth(LoadScene); });
+    AddMeasure("key press that finds " + std::string(keys[0].finds) + against, size, mostGrowth,
+               [] { return MeasureGrowth(SearchScene); });
+}
+
+} // namespace Bench
