@@ -7,7 +7,7 @@
 #include "RPFmtRows.h"
 
 #include <QPainter>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <utility>
@@ -91,12 +91,15 @@ void RPFmtNodeWdg::SelectSubNode(std::shared_ptr<IOLFormatNode> child)
 // The caller fills the list of presets, so the selection of the first row need not.
 void RPFmtNodeWdg::FillNodeList(const std::shared_ptr<IOLFormatNode> &shown)
 {
-    const QSignalBlocker quiet(ui.ListNode);
+    const QScopedValueRollback filling(fillingNodes, true);
     ui.ListNode->clear();
     if (!shown)
         return;
-    FillRows(*ui.ListNode, shown->ChildCount(),
-             [&](RPFmtItemDataWdg &row, int index) { row.node = shown->ChildAt(index); });
+    const auto setUpRow = [&](RPFmtItemDataWdg &row, int index) {
+        row.node = shown->ChildAt(index);
+    };
+    FillRows(
+            *ui.ListNode, [&] { return shown->ChildCount(); }, setUpRow);
     if (currentSubNode)
         ui.ListNode->setCurrentRow(0);
 }
@@ -109,11 +112,13 @@ void RPFmtNodeWdg::FillFormatList()
     const int textWidth = FormatTextWidth();
     const QIcon icon = ActionIcon(custom ? u":/OLMediaFormatPopup/trash.png"_s
                                          : u":/OLMediaFormatPopup/setting.png"_s);
-    FillRows(*ui.ListFormat, currentSubNode->PresetCount(), [&](RPFmtItemDataWdg &row, int index) {
+    const auto setUpRow = [&](RPFmtItemDataWdg &row, int index) {
         row.preset = currentSubNode->PresetAt(index);
         row.actionIcon = icon;
         row.textWidth = textWidth;
-    });
+    };
+    FillRows(
+            *ui.ListFormat, [&] { return currentSubNode->PresetCount(); }, setUpRow);
     if (currentPreset)
         ui.ListFormat->setCurrentRow(0);
 }
@@ -131,6 +136,8 @@ int RPFmtNodeWdg::FormatTextWidth() const
 
 void RPFmtNodeWdg::SelectedNodeChanged()
 {
+    if (fillingNodes)
+        return;
     const QList<QListWidgetItem *> selected = ui.ListNode->selectedItems();
     const auto *row = selected.isEmpty() ? nullptr : RowOf(ui.ListNode, selected.first());
     if (!row)

@@ -72,6 +72,7 @@ private:
     std::shared_ptr<IOLFormatNode> currentSubNode;
     std::shared_ptr<IOLFormatPreset> currentPreset;
     bool custom = false;
+    bool fillingNodes = false; // what is selected meanwhile is not the user's choice
 };
 
 } // namespace Orlimo

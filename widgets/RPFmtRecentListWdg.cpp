@@ -51,11 +51,12 @@ void RPFmtRecentListWdg::FillRecentList(const RecentItems &items)
 {
     ui.lwRecentList->clear();
     const QIcon icon = ActionIcon(u":/OLMediaFormatPopup/trash.png"_s);
-    FillRows(*ui.lwRecentList, static_cast<int>(items.size()),
-             [&](RPFmtItemDataWdg &row, int index) {
-                 row.recentItem = items[static_cast<std::size_t>(index)];
-                 row.actionIcon = icon;
-             });
+    const auto setUpRow = [&](RPFmtItemDataWdg &row, int index) {
+        row.recentItem = items[static_cast<std::size_t>(index)];
+        row.actionIcon = icon;
+    };
+    FillRows(
+            *ui.lwRecentList, [&] { return static_cast<int>(items.size()); }, setUpRow);
 }
 
 // Either branch leads out of here and may rebuild the list, so the row is not looked at afterwards.

@@ -37,6 +37,24 @@ private:
     }
 };
 
+void AddItem(QListWidget &list)
+{
+    auto *item = new RowItem(&list);
+    item->setSizeHint(QSize(0, OLRowHeight));
+}
+
+void AddItems(QListWidget &list, int count)
+{
+    for (int i = 0; i < count; ++i)
+        AddItem(list);
+}
+
+void RemoveItemsFrom(QListWidget &list, int row)
+{
+    while (list.count() > row)
+        delete list.takeItem(list.count() - 1);
+}
+
 } // namespace
 
 void SetUpRowList(QListWidget &list)
@@ -52,19 +70,20 @@ QIcon ActionIcon(const QString &file)
     return QIcon(QPixmap(file));
 }
 
-void FillRows(QListWidget &list, int count,
+void FillRows(QListWidget &list, const std::function<int()> &count,
               const std::function<void(RPFmtItemDataWdg &row, int index)> &setUpRow)
 {
-    for (int i = 0; i < count; ++i) {
-        auto *item = new RowItem(&list);
-        item->setSizeHint(QSize(0, OLRowHeight));
-    }
-    for (int i = 0; i < count; ++i) {
+    AddItems(list, count());
+    int i = 0;
+    for (; i < count(); ++i) {
+        if (i == list.count())
+            AddItem(list);
         auto *row = new RPFmtItemDataWdg(&list);
         row->setMouseTracking(true);
         setUpRow(*row, i);
         list.setItemWidget(list.item(i), row);
     }
+    RemoveItemsFrom(list, i);
 }
 
 } // namespace Orlimo

@@ -427,8 +427,8 @@ void RPFmtSelectionDlg::closeEvent(QCloseEvent *event)
     event->setAccepted(!isVisible());
 }
 
-// A frame one logical pixel thick on white; drawn with a pen, it would not reach the right and
-// bottom edges on a device of more pixels.
+// A frame one logical pixel thick on white. A pen that draws the rectangle of the popup would draw
+// its right and bottom edges beside it.
 void RPFmtSelectionDlg::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

@@ -1,5 +1,7 @@
 #include "OLPresetTexts.h"
 
+#include <utility>
+
 namespace Orlimo {
 
 OLPresetTexts::OLPresetTexts(std::string_view name, std::string_view description,
@@ -14,7 +16,10 @@ OLPresetTexts::OLPresetTexts(std::string_view name, std::string_view description
 
 void OLPresetTexts::SetName(std::string_view name)
 {
-    *this = OLPresetTexts(name, Description(), FormatName());
+    OLPresetTexts changed(name, Description(), FormatName());
+    m_bytes = std::move(changed.m_bytes);
+    m_nameEnd = changed.m_nameEnd;
+    m_descriptionEnd = changed.m_descriptionEnd;
 }
 
 void OLPresetTexts::Append(std::string_view text)

@@ -227,6 +227,7 @@ private Q_SLOTS:
         QTest::newRow("ASCII") << QByteArray("HD ~\\u007f") << QByteArray("HD ~\x7f");
         QTest::newRow("first beyond ASCII")
                 << QByteArray("HD \\u0080") << QByteArray("HD \xC2\x80");
+        QTest::newRow("nothing but the first") << QByteArray("\\u0080") << QByteArray("\xC2\x80");
         QTest::newRow("at the start") << QByteArray("\\u00fcber")
                                       << QByteArray("\xC3\xBC"
                                                     "ber");
@@ -254,8 +255,7 @@ private Q_SLOTS:
                 Test::Json("{\"version\":1,\"root\":{\"name\":\"HD \\ud83c!\"}}"));
         QVERIFY(root);
         const QByteArray name = QByteArray::fromStdString(root->Name());
-        QVERIFY(name.isValidUtf8());
-        QVERIFY(name.startsWith("HD ") && name.endsWith('!'));
+        QVERIFY(name == "HD ?!" || name == "HD \xEF\xBF\xBD!");
     }
 
     void aPresetIsReadAlikeWhateverStandsBeforeIt()

@@ -95,6 +95,10 @@ private Q_SLOTS:
         Row("denominator 0", "/frameRates/film/1/denominator", "0",
             "/frameRates/film/1/denominator", "number");
         Row("two figures", "/qualities/crf/1/bitRate", "1000", "/qualities/crf/1", "crf");
+        Row("two figures, the factor 0", "/qualities/crf/0/bitRate", "1", "/qualities/crf/0",
+            "crf");
+        Row("bit rate and bit depth", "/qualities/kbps/0/bitDepth", "16", "/qualities/kbps/0",
+            "bitDepth");
         Row("factor below 0", "/qualities/crf/0/crf", "-1", "/qualities/crf/0/crf", "number");
         Row("bit rate 0", "/qualities/kbps/0/bitRate", "0", "/qualities/kbps/0/bitRate", "number");
         Row("bit depth 0", "/qualities/pcm/0/bitDepth", "0", "/qualities/pcm/0/bitDepth", "number");

@@ -1,9 +1,11 @@
 #include "NodePageTest.h"
 
+#include "ui_RPFmtSelectionDlg.h"
+
 #include "IOLFormatPreset.h"
 
 #include <QPointer>
-#include <QTabWidget>
+#include <QSignalSpy>
 
 using namespace Orlimo;
 using Test::MakeCategory;
@@ -45,19 +47,21 @@ private Q_SLOTS:
 
     void aPageIsTheSameFilledBeforeOrAfterItBecomesATab()
     {
-        QTabWidget tabs[2];
+        QWidget windows[2];
         RPFmtNodeWdg *pages[2];
         for (const int i : { 0, 1 }) {
-            pages[i] = new RPFmtNodeWdg(&tabs[i]);
+            Ui::RPFmtSelectionDlgClass ui;
+            ui.setupUi(&windows[i]);
+            pages[i] = new RPFmtNodeWdg(ui.tabWidget);
             if (i == 0)
                 pages[i]->SetFormatNode(video, false);
-            tabs[i].insertTab(0, pages[i], u"Video"_s);
+            ui.tabWidget->insertTab(0, pages[i], u"Video"_s);
+            ui.tabWidget->setCurrentIndex(0);
             if (i == 1)
                 pages[i]->SetFormatNode(video, false);
-            tabs[i].resize(700, 400);
-            tabs[i].show();
+            windows[i].show();
         }
-        QCOMPARE(tabs[0].grab().toImage(), tabs[1].grab().toImage());
+        QCOMPARE(windows[0].grab().toImage(), windows[1].grab().toImage());
         for (const RPFmtNodeWdg *page : pages) {
             compareCurrentRows(*page, 0, 0);
             compareLists(*page, { u"MP4"_s, u"AVI"_s, u"MKV"_s },
@@ -70,6 +74,17 @@ private Q_SLOTS:
             QCOMPARE(first.geometry(), second.geometry());
             QCOMPARE(first.textWidth, second.textWidth);
         }
+    }
+
+    void theListOfChildrenTellsOfTheRowThatIsSelectedWhenItIsFilled()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        QSignalSpy selections(page.NodeList(), &QListWidget::itemSelectionChanged);
+        QSignalSpy rows(page.NodeList(), &QListWidget::currentRowChanged);
+        page.SetFormatNode(MakeCategory("Audio", { MakeFormat("MP3", { "High" }) }), false);
+        QVERIFY(!selections.isEmpty());
+        QCOMPARE(rows.last().first().toInt(), 0);
     }
 
     void rowsAreFiftyThreePixelsHighAndTrackTheMouse()
@@ -91,8 +106,11 @@ private Q_SLOTS:
             page.SetFormatNode(video, custom);
             const QIcon expected(custom ? u":/OLMediaFormatPopup/trash.png"_s
                                         : u":/OLMediaFormatPopup/setting.png"_s);
-            for (int i = 0; i < 3; ++i)
-                QCOMPARE(ImageOf(RowAt(page.FormatList(), i)->actionIcon), ImageOf(expected));
+            for (int i = 0; i < 3; ++i) {
+                const QIcon icon = RowAt(page.FormatList(), i)->actionIcon;
+                QCOMPARE(ImageOf(icon), ImageOf(expected));
+                QCOMPARE(icon.availableSizes(), expected.availableSizes());
+            }
         }
     }
 

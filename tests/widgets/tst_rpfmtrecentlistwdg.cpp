@@ -110,8 +110,9 @@ private Q_SLOTS:
     void theActionOfARowIsToDeleteIt()
     {
         showRecent({ "one" });
-        const QImage expected = QIcon(u":/OLMediaFormatPopup/trash.png"_s).pixmap(64, 64).toImage();
-        QCOMPARE(rowAt(0)->actionIcon.pixmap(64, 64).toImage(), expected);
+        const QIcon expected(u":/OLMediaFormatPopup/trash.png"_s);
+        QCOMPARE(rowAt(0)->actionIcon.pixmap(64, 64).toImage(), expected.pixmap(64, 64).toImage());
+        QCOMPARE(rowAt(0)->actionIcon.availableSizes(), expected.availableSizes());
     }
 
     void aRefreshShowsANewChoiceAndSelectsIt()

@@ -155,6 +155,40 @@ private Q_SLOTS:
         QCOMPARE(scene.closings, 1);
     }
 
+    void whateverWidgetLosesTheFocusThePopupCloses_data()
+    {
+        QTest::addColumn<QByteArray>("tab");
+        QTest::addColumn<QByteArray>("child");
+        for (const char *tab : { "Video", "Custom" }) {
+            for (const char *child : { "page", "ListNode", "ListFormat" })
+                QTest::addRow("%s, %s", tab, child) << QByteArray(tab) << QByteArray(child);
+        }
+        QTest::newRow("Recent, page") << QByteArray("Recent") << QByteArray("page");
+        QTest::newRow("Recent, list") << QByteArray("Recent") << QByteArray("lwRecentList");
+        for (const char *child : { "tabs", "tab bar", "search box", "popup" })
+            QTest::addRow("%s", child) << QByteArray("Video") << QByteArray(child);
+    }
+
+    void whateverWidgetLosesTheFocusThePopupCloses()
+    {
+        QFETCH(const QByteArray, tab);
+        QFETCH(const QByteArray, child);
+        Scene scene;
+        QTabWidget *tabs = scene.driver.Tabs();
+        tabs->setCurrentIndex(
+                static_cast<int>(scene.driver.TabTexts().indexOf(QString::fromLatin1(tab))));
+        QVERIFY(scene.popup.isVisible());
+        const QHash<QByteArray, QWidget *> widgets {
+            { "page", tabs->currentWidget() }, { "tabs", tabs },
+            { "tab bar", tabs->tabBar() },     { "search box", scene.driver.SearchBox() },
+            { "popup", &scene.popup },
+        };
+        QWidget *widget = widgets.value(child);
+        sendFocusOut(widget ? widget : scene.driver.List(child.constData()), Qt::OtherFocusReason);
+        QVERIFY(!scene.popup.isVisible());
+        QCOMPARE(scene.closings, 1);
+    }
+
     void tabKeyClosesThePopup()
     {
         Scene scene;
