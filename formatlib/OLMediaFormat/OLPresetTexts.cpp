@@ -1,7 +1,5 @@
 #include "OLPresetTexts.h"
 
-#include <utility>
-
 namespace Orlimo {
 
 OLPresetTexts::OLPresetTexts(std::string_view name, std::string_view description,
@@ -16,10 +14,9 @@ OLPresetTexts::OLPresetTexts(std::string_view name, std::string_view description
 
 void OLPresetTexts::SetName(std::string_view name)
 {
-    OLPresetTexts changed(name, Description(), FormatName());
-    m_bytes = std::move(changed.m_bytes);
-    m_nameEnd = changed.m_nameEnd;
-    m_descriptionEnd = changed.m_descriptionEnd;
+    const OLPresetTexts changed(name, Description(), FormatName());
+    m_bytes.reserve(changed.m_bytes.size()); // where memory runs out, nothing has changed
+    *this = changed;
 }
 
 void OLPresetTexts::Append(std::string_view text)
