@@ -16,8 +16,12 @@ namespace {
 Figures FiguresOf(const QByteArray &line)
 {
     Figures figures;
-    for (const QByteArray &figure : line.simplified().split(' '))
-        figures.append(figure.toDouble());
+    for (const QByteArray &figure : line.simplified().split(' ')) {
+        bool isNumber = false;
+        figures.append(figure.toDouble(&isNumber));
+        if (!isNumber)
+            qFatal("a scene printed \"%s\"", line.constData());
+    }
     return figures;
 }
 

@@ -34,13 +34,12 @@ namespace Bench {
 namespace {
 
 constexpr std::chrono::milliseconds fadeOfClearButton { 200 };
-constexpr std::chrono::milliseconds timeBeforeKey { 60 };
 constexpr std::chrono::milliseconds settling { 50 };
 
 void PrintRound(std::initializer_list<Cost> figures)
 {
     for (const Cost figure : figures)
-        std::printf("%.9g ", figure);
+        std::printf("%s ", QByteArray::number(figure, 'g', 9).constData());
     std::printf("\n");
 }
 
@@ -147,7 +146,7 @@ Cost SearchInPicker(Picker &picker, const QString &key)
     picker.ExpectSearch(key);
     QLineEdit *searchBox = picker.SearchBox();
     Focus(*searchBox);
-    RunFor(timeBeforeKey);
+    RunFor(fadeOfClearButton);
     const Cost cost = UntilPainted([&] { PressKey(key); },
                                    [&](const EventWatch &watch) {
                                        return AreRowsPainted(watch, *picker.Tabs());

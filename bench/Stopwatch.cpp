@@ -61,7 +61,10 @@ Cost CountIn(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         qFatal("there are no counts of callgrind in %s", qUtf8Printable(path));
     const QByteArray counts = file.readAll();
-    const qsizetype begin = counts.lastIndexOf(totals) + totals.size();
+    const qsizetype place = counts.lastIndexOf(totals);
+    if (place < 0)
+        qFatal("there are no totals in %s", qUtf8Printable(path));
+    const qsizetype begin = place + totals.size();
     return counts.sliced(begin, counts.indexOf('\n', begin) - begin).toDouble() / 1e6;
 }
 

@@ -116,6 +116,8 @@ int main(int argc, char **argv)
         Bench::WriteDescriptions(arguments.mid(1));
     else if (command == QLatin1StringView(Bench::countArgument))
         Bench::PrintCounts();
+    else if (!command.isEmpty())
+        qFatal("there is no command %s", qUtf8Printable(command));
     else
         Bench::PrintMeasures();
     return 0;

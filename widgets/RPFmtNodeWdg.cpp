@@ -66,17 +66,18 @@ void RPFmtNodeWdg::ResetSearch()
     ShowFirstSubNode();
 }
 
-const std::shared_ptr<IOLFormatNode> &RPFmtNodeWdg::ShownNode() const
+std::shared_ptr<IOLFormatNode> RPFmtNodeWdg::ShownNode() const
 {
     return searchNode ? searchNode : node;
 }
 
 void RPFmtNodeWdg::ShowFirstSubNode()
 {
-    const auto &shown = ShownNode();
-    if (shown)
+    if (const auto shown = ShownNode())
         SelectSubNode(shown->FirstChild());
-    FillNodeList(shown);
+    ui.ListNode->clear();
+    ui.ListFormat->clear();
+    FillNodeList(ShownNode());
     FillFormatList();
 }
 
@@ -88,13 +89,12 @@ void RPFmtNodeWdg::SelectSubNode(std::shared_ptr<IOLFormatNode> child)
         currentPreset = currentSubNode->FirstFormatPreset();
 }
 
-// The caller fills the list of presets, so the selection of the first row need not.
+// The caller fills the list of presets, so the selection of a row need not.
 void RPFmtNodeWdg::FillNodeList(const std::shared_ptr<IOLFormatNode> &shown)
 {
-    const QScopedValueRollback filling(fillingNodes, true);
-    ui.ListNode->clear();
     if (!shown)
         return;
+    const QScopedValueRollback filling(fillingNodes, true);
     const auto setUpRow = [&](RPFmtItemDataWdg &row, int index) {
         row.node = shown->ChildAt(index);
     };
@@ -136,13 +136,13 @@ int RPFmtNodeWdg::FormatTextWidth() const
 
 void RPFmtNodeWdg::SelectedNodeChanged()
 {
-    if (fillingNodes)
-        return;
     const QList<QListWidgetItem *> selected = ui.ListNode->selectedItems();
     const auto *row = selected.isEmpty() ? nullptr : RowOf(ui.ListNode, selected.first());
     if (!row)
         return;
     SelectSubNode(std::const_pointer_cast<IOLFormatNode>(row->node));
+    if (fillingNodes)
+        return;
     FillFormatList();
     ui.ListFormat->setCurrentRow(0);
 }

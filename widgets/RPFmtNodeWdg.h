@@ -48,7 +48,7 @@ private:
     using EditRequest =
             std::function<void(std::shared_ptr<IOLFormatPreset>, std::shared_ptr<IOLFormatNode>)>;
 
-    const std::shared_ptr<IOLFormatNode> &ShownNode() const;
+    std::shared_ptr<IOLFormatNode> ShownNode() const;
     void ShowFirstSubNode();
     void SelectSubNode(std::shared_ptr<IOLFormatNode> child);
     void FillNodeList(const std::shared_ptr<IOLFormatNode> &shown);
@@ -72,7 +72,7 @@ private:
     std::shared_ptr<IOLFormatNode> currentSubNode;
     std::shared_ptr<IOLFormatPreset> currentPreset;
     bool custom = false;
-    bool fillingNodes = false; // what is selected meanwhile is not the user's choice
+    bool fillingNodes = false;
 };
 
 } // namespace Orlimo

@@ -43,18 +43,6 @@ void AddItem(QListWidget &list)
     item->setSizeHint(QSize(0, OLRowHeight));
 }
 
-void AddItems(QListWidget &list, int count)
-{
-    for (int i = 0; i < count; ++i)
-        AddItem(list);
-}
-
-void RemoveItemsFrom(QListWidget &list, int row)
-{
-    while (list.count() > row)
-        delete list.takeItem(list.count() - 1);
-}
-
 } // namespace
 
 void SetUpRowList(QListWidget &list)
@@ -73,17 +61,20 @@ QIcon ActionIcon(const QString &file)
 void FillRows(QListWidget &list, const std::function<int()> &count,
               const std::function<void(RPFmtItemDataWdg &row, int index)> &setUpRow)
 {
-    AddItems(list, count());
+    const int expected = count();
+    for (int i = 0; i < expected; ++i)
+        AddItem(list);
     int i = 0;
     for (; i < count(); ++i) {
-        if (i == list.count())
+        if (i >= expected)
             AddItem(list);
         auto *row = new RPFmtItemDataWdg(&list);
         row->setMouseTracking(true);
         setUpRow(*row, i);
         list.setItemWidget(list.item(i), row);
     }
-    RemoveItemsFrom(list, i);
+    for (int left = expected - 1; left >= i; --left)
+        delete list.takeItem(left);
 }
 
 } // namespace Orlimo

@@ -87,6 +87,31 @@ private Q_SLOTS:
         QCOMPARE(rows.last().first().toInt(), 0);
     }
 
+    void aRowThatAListenerSelectsWhileThePageIsFilledShowsItsPresets()
+    {
+        RPFmtNodeWdg page(nullptr);
+        connect(page.NodeList(), &QListWidget::currentRowChanged, this, [&page](int row) {
+            if (row == 0)
+                page.NodeList()->setCurrentRow(1);
+        });
+        page.SetFormatNode(video, false);
+        compareLists(page, { u"MP4"_s, u"AVI"_s, u"MKV"_s }, { u"DivX"_s, u"Xvid"_s });
+        compareCurrentRows(page, 1, 0);
+    }
+
+    void bothListsAreEmptyBeforeTheFirstIsFilled()
+    {
+        RPFmtNodeWdg page(nullptr);
+        page.SetFormatNode(video, false);
+        int presets = -1;
+        connect(page.NodeList(), &QListWidget::itemSelectionChanged, this, [&] {
+            if (page.NodeList()->count() > 0)
+                presets = page.FormatList()->count();
+        });
+        page.SetFormatNode(MakeCategory("Audio", { MakeFormat("MP3", { "High" }) }), false);
+        QCOMPARE(presets, 0);
+    }
+
     void rowsAreFiftyThreePixelsHighAndTrackTheMouse()
     {
         RPFmtNodeWdg page(nullptr);
