@@ -43,8 +43,8 @@ __attribute__((target("avx"))) void ClearUpperHalves()
 }
 
 // What the C library copies in large blocks leaves the vector registers of some processors in a
-// state in which other code takes twice as long. Painting clears them, and a search of the picker
-// comes after painting.
+// state in which a search takes more than twice as long. Painting clears them, and a search of the
+// picker comes after painting.
 void ClearVectorRegisters()
 {
     if (__builtin_cpu_supports("avx"))

@@ -7,7 +7,6 @@
 #include "RPFmtRows.h"
 
 #include <QPainter>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <utility>
@@ -77,8 +76,10 @@ void RPFmtNodeWdg::ShowFirstSubNode()
         SelectSubNode(shown->FirstChild());
     ui.ListNode->clear();
     ui.ListFormat->clear();
+    formatsFilled = false;
     FillNodeList(ShownNode());
-    FillFormatList();
+    if (!formatsFilled)
+        FillFormatList();
 }
 
 // Without a child the last chosen preset stays.
@@ -89,12 +90,11 @@ void RPFmtNodeWdg::SelectSubNode(std::shared_ptr<IOLFormatNode> child)
         currentPreset = currentSubNode->FirstFormatPreset();
 }
 
-// The caller fills the list of presets, so the selection of a row need not.
+// The selection of the first row fills the list of presets.
 void RPFmtNodeWdg::FillNodeList(const std::shared_ptr<IOLFormatNode> &shown)
 {
     if (!shown)
         return;
-    const QScopedValueRollback filling(fillingNodes, true);
     const auto setUpRow = [&](RPFmtItemDataWdg &row, int index) {
         row.node = shown->ChildAt(index);
     };
@@ -106,6 +106,7 @@ void RPFmtNodeWdg::FillNodeList(const std::shared_ptr<IOLFormatNode> &shown)
 
 void RPFmtNodeWdg::FillFormatList()
 {
+    formatsFilled = true;
     ui.ListFormat->clear();
     if (!currentSubNode)
         return;
@@ -141,8 +142,6 @@ void RPFmtNodeWdg::SelectedNodeChanged()
     if (!row)
         return;
     SelectSubNode(std::const_pointer_cast<IOLFormatNode>(row->node));
-    if (fillingNodes)
-        return;
     FillFormatList();
     ui.ListFormat->setCurrentRow(0);
 }
@@ -174,14 +173,22 @@ void RPFmtNodeWdg::DeleteClicked(QListWidgetItem *item,
     if (emptied)
         RemoveCurrentSubNodeRow();
     else
-        delete ui.ListFormat->takeItem(ui.ListFormat->row(item));
+        Forget(ui.ListFormat->takeItem(ui.ListFormat->row(item)));
+}
+
+// Others may still be told that the item was clicked.
+void RPFmtNodeWdg::Forget(QListWidgetItem *taken)
+{
+    const std::shared_ptr<QListWidgetItem> item(taken);
+    QMetaObject::invokeMethod(
+            this, [item] {}, Qt::QueuedConnection);
 }
 
 void RPFmtNodeWdg::RemoveCurrentSubNodeRow()
 {
     int row = ui.ListNode->currentRow();
     delete ui.ListNode->takeItem(row);
-    const auto &shown = ShownNode();
+    const auto shown = ShownNode();
     row = std::min(row, shown->ChildCount() - 1);
     SelectSubNode(shown->ChildAt(row));
     if (row >= 0)

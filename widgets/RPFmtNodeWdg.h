@@ -57,6 +57,7 @@ private:
     void DeleteCustomPreset(const std::shared_ptr<IOLFormatPreset> &preset,
                             const std::shared_ptr<IOLFormatNode> &subNode, bool *emptied);
     void DeleteClicked(QListWidgetItem *item, const std::shared_ptr<IOLFormatPreset> &preset);
+    void Forget(QListWidgetItem *taken);
     void RemoveCurrentSubNodeRow();
 
     Ui::RPFmtNodeWdgClass ui;
@@ -72,7 +73,7 @@ private:
     std::shared_ptr<IOLFormatNode> currentSubNode;
     std::shared_ptr<IOLFormatPreset> currentPreset;
     bool custom = false;
-    bool fillingNodes = false;
+    bool formatsFilled = false; // since the node was last shown
 };
 
 } // namespace Orlimo

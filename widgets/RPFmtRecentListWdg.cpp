@@ -47,7 +47,7 @@ void RPFmtRecentListWdg::ResetRecentSearch()
     RefreshRecentList();
 }
 
-void RPFmtRecentListWdg::FillRecentList(const RecentItems &items)
+void RPFmtRecentListWdg::FillRecentList(RecentItems items)
 {
     ui.lwRecentList->clear();
     const QIcon icon = ActionIcon(u":/OLMediaFormatPopup/trash.png"_s);

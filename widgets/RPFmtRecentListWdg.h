@@ -42,7 +42,7 @@ public Q_SLOTS:
 private:
     using RecentItems = std::vector<std::shared_ptr<IOLFmtPresetRecentItem>>;
 
-    void FillRecentList(const RecentItems &items);
+    void FillRecentList(RecentItems items);
     void DeleteClicked(QListWidgetItem *item,
                        const std::shared_ptr<IOLFmtPresetRecentItem> &recentItem);
 

@@ -61,6 +61,7 @@ QIcon ActionIcon(const QString &file)
 void FillRows(QListWidget &list, const std::function<int()> &count,
               const std::function<void(RPFmtItemDataWdg &row, int index)> &setUpRow)
 {
+    const int before = list.count();
     const int expected = count();
     for (int i = 0; i < expected; ++i)
         AddItem(list);
@@ -71,10 +72,10 @@ void FillRows(QListWidget &list, const std::function<int()> &count,
         auto *row = new RPFmtItemDataWdg(&list);
         row->setMouseTracking(true);
         setUpRow(*row, i);
-        list.setItemWidget(list.item(i), row);
+        list.setItemWidget(list.item(before + i), row);
     }
     for (int left = expected - 1; left >= i; --left)
-        delete list.takeItem(left);
+        delete list.takeItem(before + left);
 }
 
 } // namespace Orlimo

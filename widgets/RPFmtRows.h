@@ -17,7 +17,7 @@ void SetUpRowList(QListWidget &list);
 // The action icon in the file.
 QIcon ActionIcon(const QString &file);
 
-// Appends count() rows to an empty list, and asks for their number again after each, which may have
+// Appends count() rows to the list, and asks for their number again after each, which may have
 // changed. setUpRow(row, i) gives each its data.
 //
 // All items are added before the first row widget: a list that gets them by turns lays itself out

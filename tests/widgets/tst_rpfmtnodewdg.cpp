@@ -99,17 +99,16 @@ private Q_SLOTS:
         compareCurrentRows(page, 1, 0);
     }
 
-    void bothListsAreEmptyBeforeTheFirstIsFilled()
+    void whoListensToTheListOfChildrenSeesThePresetsOfTheSelectedOne()
     {
         RPFmtNodeWdg page(nullptr);
         page.SetFormatNode(video, false);
-        int presets = -1;
-        connect(page.NodeList(), &QListWidget::itemSelectionChanged, this, [&] {
-            if (page.NodeList()->count() > 0)
-                presets = page.FormatList()->count();
-        });
+        QList<QStringList> presets;
+        connect(page.NodeList(), &QListWidget::itemSelectionChanged, this,
+                [&] { presets.append(RowTitles(*page.FormatList())); });
         page.SetFormatNode(MakeCategory("Audio", { MakeFormat("MP3", { "High" }) }), false);
-        QCOMPARE(presets, 0);
+        QVERIFY(!presets.isEmpty());
+        QCOMPARE(presets.last(), QStringList { u"High"_s });
     }
 
     void rowsAreFiftyThreePixelsHighAndTrackTheMouse()

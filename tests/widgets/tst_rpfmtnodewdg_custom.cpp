@@ -132,7 +132,17 @@ private Q_SLOTS:
         formats().item(0)->setData(Qt::UserRole, QVariant::fromValue(attached));
         QCOMPARE(attached.use_count(), 2);
         ClickAction(formats(), 0);
-        QCOMPARE(attached.use_count(), 1);
+        QTRY_COMPARE(attached.use_count(), 1);
+    }
+
+    void theItemIsThereForEveryListenerOfTheClickThatDeletesIt()
+    {
+        show({ Test::MakeFormat("MP4", { "first", "second" }) });
+        QSize hint;
+        connect(&formats(), &QListWidget::itemClicked, this,
+                [&hint](QListWidgetItem *item) { hint = item->sizeHint(); });
+        ClickAction(formats(), 0);
+        QCOMPARE(hint, QSize(0, 53));
     }
 
     void deletingTheLastPresetDeletesTheFormat_data()

@@ -191,6 +191,19 @@ private Q_SLOTS:
         QCOMPARE(row.hasMouseTracking(), other.hasMouseTracking());
     }
 
+    void rowsAreAppendedToThoseOfTheList()
+    {
+        QListWidget list;
+        const auto setUpRow = [](RPFmtItemDataWdg &row, int index) {
+            row.preset = Test::MakePreset(std::to_string(index));
+        };
+        FillRows(list, Always(2), setUpRow);
+        FillRows(list, Always(3), setUpRow);
+        QCOMPARE(list.count(), 5);
+        for (int i = 0; i < 5; ++i)
+            QCOMPARE(rowAt(list, i)->preset->Name(), std::to_string(i < 2 ? i : i - 2));
+    }
+
     void theNumberIsAskedForAgainAfterEachRow_data()
     {
         QTest::addColumn<int>("step");
